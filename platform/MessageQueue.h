@@ -4,6 +4,7 @@
 #include <deque>
 #include <functional>
 #include <mutex>
+#include <optional>
 #include <utility>
 
 namespace ondrilo {
@@ -73,6 +74,7 @@ class MessageQueue {
     [[nodiscard]] bool IsHeld() const { return holds > 0; }
 
   private:
+    std::optional<MessageEvent> Take();
     void Release();
 
     std::mutex mutex;

@@ -31,7 +31,8 @@ class FieldScanner {
     explicit FieldScanner(TextView line) : rest(line) {}
     /// "%s": the next word, at most `limit` bytes.
     std::optional<TextView> Word(std::size_t limit = static_cast<std::size_t>(-1));
-    /// "%d": 32-bit signed; a number too large for 64 bits is taken as the nearest, then the low 32 bits count.
+    /// "%d": 32-bit signed; a number too large for 64 bits is taken as the nearest, then the low 32 bits
+    /// count.
     std::optional<int> Integer();
     /// "%Lf": a real with a point as decimal mark, in any locale.
     std::optional<double> Real();

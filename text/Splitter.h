@@ -12,9 +12,15 @@ inline constexpr TextView kSeparators = " ,.:)(;/.?!«»\"\n\r\t"_w;
 inline constexpr TextView kTerminators = ".?!";
 inline constexpr TextView kWhiteSpace = " \n\r\t";
 
-[[nodiscard]] inline bool IsSeparator(char c) { return kSeparators.find(c) != TextView::npos; }
-[[nodiscard]] inline bool IsTerminator(char c) { return kTerminators.find(c) != TextView::npos; }
-[[nodiscard]] inline bool IsWhiteSpace(char c) { return kWhiteSpace.find(c) != TextView::npos; }
+[[nodiscard]] inline bool IsSeparator(char c) {
+    return kSeparators.find(c) != TextView::npos;
+}
+[[nodiscard]] inline bool IsTerminator(char c) {
+    return kTerminators.find(c) != TextView::npos;
+}
+[[nodiscard]] inline bool IsWhiteSpace(char c) {
+    return kWhiteSpace.find(c) != TextView::npos;
+}
 
 using Tokens = std::vector<Text>;
 
@@ -23,11 +29,13 @@ inline constexpr std::size_t kMaximumTokens = 256;
 inline constexpr std::size_t kAllTokens = static_cast<std::size_t>(-1);
 
 /// The maximal runs of characters outside `delimiters`, never an empty one, at most `most`.
-[[nodiscard]] Tokens Split(TextView text, TextView delimiters = kSeparators, std::size_t most = kMaximumTokens);
+[[nodiscard]] Tokens Split(TextView text, TextView delimiters = kSeparators,
+                           std::size_t most = kMaximumTokens);
 
 /// As Split by the separators, but each bracketed word is one token, brackets included: "vou [bom dia] já"
-/// gives "vou", "[bom dia]" and "já"; an unclosed "[bom" gives "[bom]".
-[[nodiscard]] Tokens SplitTokens(TextView text);
+/// gives "vou", "[bom dia]" and "já"; an unclosed "[bom" gives "[bom]". A run between brackets that
+/// holds "#" counts as bracketed. `most` limits these runs and the words of each.
+[[nodiscard]] Tokens SplitTokens(TextView text, std::size_t most = kMaximumTokens);
 
 /// The tokens joined with `glue` between them.
 [[nodiscard]] Text Join(const Tokens& tokens, TextView glue);

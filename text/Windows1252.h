@@ -45,7 +45,12 @@ inline constexpr char32_t kReplacement = 0xFFFD;
 /// kReplacement and costs one byte.
 constexpr char32_t TakeUtf8(std::string_view& utf8) {
     const auto lead = static_cast<unsigned char>(utf8.front());
-    const unsigned length = lead < 0x80 ? 1 : lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 0;
+    const unsigned length = lead < 0x80   ? 1
+                            : lead < 0xC2 ? 0
+                            : lead < 0xE0 ? 2
+                            : lead < 0xF0 ? 3
+                            : lead < 0xF5 ? 4
+                                          : 0;
     auto malformed = [&utf8] {
         utf8.remove_prefix(1);
         return kReplacement;
