@@ -1,0 +1,51 @@
+#pragma once
+
+#include "platform/FileStore.h"
+#include "prediction/CDictionary.h"
+#include "profiles/CUserProfileProperties.h"
+
+#include <filesystem>
+#include <vector>
+
+namespace ondrilo {
+
+/// One person: options and vocabulary. Lives in its CUserProfileSet and is never copied.
+class CUserProfile {
+  public:
+    CUserProfile() = default;
+    CUserProfile(const CUserProfile&) = delete;
+    CUserProfile& operator=(const CUserProfile&) = delete;
+
+    CUserProfileProperties properties;
+    CDictionary dictionary;
+
+    /// Sets an option and marks the profile as changed.
+    template <typename Option, typename Value>
+    void Set(Option option, const Value& value) {
+        properties.Set(option, value);
+        changed = true;
+    }
+    void MarkChanged() { changed = true; }
+    [[nodiscard]] bool IsChanged() const { return changed; }
+
+    /// Takes over all options of another profile; name and file stay its own.
+    void CopyOptionsOf(const CUserProfile& other);
+
+    /// Reads the options. Marks the profile as changed, even if there is no such file: a profile that was
+    /// read is written at every save, which also brings its file up to the current list of keys.
+    void Load(const std::filesystem::path& path);
+    /// Writes the options if the profile is marked as changed; the mark stays.
+    SaveResult Save() const;
+
+    /// True if the dictionary stays in memory for the whole run.
+    [[nodiscard]] bool KeepsDictionary() const { return properties.IsOn(option::MANTER_DICIONARIO_MEMORIA); }
+    /// Reads the vocabulary; what comes back are the messages to show, in order.
+    [[nodiscard]] std::vector<Text> LoadDictionary();
+    /// Saves the vocabulary and frees it; the first problem, if any.
+    SaveResult ReleaseDictionary();
+
+  private:
+    bool changed = false;
+};
+
+} // namespace ondrilo
