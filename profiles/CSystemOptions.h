@@ -9,6 +9,7 @@
 
 namespace ondrilo {
 
+/// The integers are switches but for PAPEL_COMUNICACAO_COOPERATIVA: 0 client, 1 server.
 enum class IntegerSystemOption : std::size_t {
     ADAPTACAO_CONTEXTO,
     ALTERACOES_SISTEMA,
@@ -26,6 +27,33 @@ namespace system_option {
 using enum IntegerSystemOption;
 using enum TextSystemOption;
 } // namespace system_option
+
+enum class SystemOptionKind { Integer, Text, MarkedText, List };
+
+/// A line of the file; `index` is the value of its handle. Blanks of a marked text are written as ";;;".
+struct SystemOption {
+    TextView key;
+    SystemOptionKind kind;
+    std::size_t index;
+};
+
+#define SYSTEM_OPTION(kind, key)                                                                             \
+    { #key, SystemOptionKind::kind, static_cast < std::size_t>(system_option::key) }
+/// In the order of the file. The server's name stands in it twice; the reader keeps the second.
+inline constexpr SystemOption kSystemOptions[] = {
+    SYSTEM_OPTION(Integer, ADAPTACAO_CONTEXTO),
+    SYSTEM_OPTION(Text, MODO_PROCURA_ETIQUETAS_BLUETOOTH),
+    SYSTEM_OPTION(Text, PORTA_GPS),
+    SYSTEM_OPTION(Integer, ALTERACOES_SISTEMA),
+    SYSTEM_OPTION(Integer, PAPEL_COMUNICACAO_COOPERATIVA),
+    SYSTEM_OPTION(Text, NOME_SERVIDOR_COMUNICACAO_COOPERATIVA),
+    SYSTEM_OPTION(MarkedText, PERFIL_UTILIZADOR_ARRANQUE),
+    SYSTEM_OPTION(MarkedText, NOME_SERVIDOR_COMUNICACAO_COOPERATIVA),
+    SYSTEM_OPTION(Integer, LIMPAR_SUGESTOES_APOS_SELECCAO),
+    SYSTEM_OPTION(Integer, ADAPTAR_APENAS_COM_PERFIL_GENERICO_ATIVO),
+    {"LISTA_PRIORIDADES_ADAPTACAO_CONTEXTO", SystemOptionKind::List, 0},
+};
+#undef SYSTEM_OPTION
 
 /// What belongs to the installation and not to a person. Kept in the file "configsis" of the data folder,
 /// "KEY value" a line.
