@@ -1,0 +1,114 @@
+#pragma once
+
+#include "platform/MessageQueue.h"
+#include "targets/BlockedKeys.h"
+#include "targets/CKeyboard.h"
+#include "targets/CWordProcessor.h"
+#include "targets/SurfaceText.h"
+#include "targets/TextSurface.h"
+#include "targets/UnitEndPosting.h"
+
+#include <memory>
+#include <optional>
+
+namespace ondrilo {
+
+/// The internal editor: text and pictures in a box of the session's own window. Text is written as simulated
+/// keys, so that the box reports it like what the person types; deletions are made in the box at once.
+class CInternalWordProcessor : public CWordProcessor, private TextSurfaceListener {
+  public:
+    CInternalWordProcessor(std::unique_ptr<TextSurface> textBox, CKeyboard& keyboard, Desktop& desktop,
+                           MessageQueue& queue);
+    ~CInternalWordProcessor() override;
+
+    [[nodiscard]] TextSurface& TextBox() { return *textBox; }
+
+    [[nodiscard]] bool Create() override;
+    void Destroy() override;
+
+    [[nodiscard]] Text GetCurrentWordLeft() const override;
+    [[nodiscard]] Text GetCurrentWordRight() const override;
+    [[nodiscard]] Text GetCurrentWord() const override;
+    [[nodiscard]] Text GetPreviousWord() const override;
+    [[nodiscard]] Text GetSecondPreviousWord() const override;
+    [[nodiscard]] Text GetWrittenSentence() const override;
+    [[nodiscard]] Text GetCurrentSentenceLeft() const override;
+    [[nodiscard]] Text GetCurrentSentenceRight() const override;
+    [[nodiscard]] Text GetCurrentSentence() const override;
+    [[nodiscard]] Text GetPreviousSentence() const override;
+    [[nodiscard]] Text GetSecondPreviousSentence() const override;
+    [[nodiscard]] Text GetRemainder(TextView complete, TextView typed) const override;
+    void WriteWord(TextView word) override;
+    void DeleteCurrentWordLeft() override;
+    void WriteSentence(TextView sentence) override;
+    void DeleteCurrentSentenceLeft() override;
+    void BlockKeys(int first, int last) override;
+    void UnblockKeys(int first, int last) override;
+    void DisableMouse() override;
+    void EnableMouse() override;
+    [[nodiscard]] WindowId GetTargetWindow() const override;
+    [[nodiscard]] Point GetCaretPosition() const override;
+    [[nodiscard]] bool IsPointerOverTarget() const override;
+    void MovePointerOutOf(Rectangle rectangle) override;
+    [[nodiscard]] Text GetWordDisplayText(TextView word) const override;
+    [[nodiscard]] Text AdaptWordCase(TextView word) const override;
+    [[nodiscard]] Text GetSentenceDisplayText(TextView sentence) const override;
+    [[nodiscard]] Text AdaptSentenceCase(TextView sentence) const override;
+    void SetWidth(int pixels) override;
+    void SetHeight(int pixels) override;
+    [[nodiscard]] int GetWidth() const override;
+    [[nodiscard]] int GetHeight() const override;
+    void SetFontSize(int points) override;
+    void SetFontName(TextView name) override;
+    void Move(int x, int y) override;
+    std::optional<int> InsertImage(const std::filesystem::path& path) override;
+    void SetImageLabels(int position, TextView label, TextView tag) override;
+    [[nodiscard]] bool IsInsideWord() const override;
+    [[nodiscard]] bool IsAtImage() const override;
+    [[nodiscard]] bool IsAfterImage() const override;
+    [[nodiscard]] Text GetImageLabelAtCursor() const override;
+    [[nodiscard]] Text GetLastImageLabel() const override;
+    [[nodiscard]] std::vector<Text> GetSentenceImageLabels() const override;
+    void ClearAll() override;
+    [[nodiscard]] Text GetLabelledSentenceLeft() const override;
+    [[nodiscard]] Text GetLabelledSentenceRight() const override;
+    [[nodiscard]] Text GetLabelledSentence() const override;
+    [[nodiscard]] Text GetLabelledSentenceWritten() const override;
+    [[nodiscard]] Text GetLabelledPreviousSentence() const override;
+    [[nodiscard]] Text GetLabelledSecondPreviousSentence() const override;
+    [[nodiscard]] Text GetLabelledPreviousWord() const override;
+    [[nodiscard]] Text GetLabelledSecondPreviousWord() const override;
+    [[nodiscard]] Text GetTextWithLabels() const override;
+    [[nodiscard]] Text GetTextWithTags() const override;
+    void DeleteCurrentWord() override;
+    void DeleteCurrentSentence() override;
+
+  private:
+    void OnKeyDown(int code, std::int32_t keyData) override;
+    void OnKeyUp(int code, std::int32_t keyData) override;
+    [[nodiscard]] bool IsBlocked(int code) const override;
+    void OnCharacter(char character, std::int32_t keyData) override;
+    void OnMouseButton(Message button) override;
+    void OnPointerMoved(Point position) override;
+
+    [[nodiscard]] SurfaceText Labelled() const;
+    [[nodiscard]] SurfaceText Tagged() const;
+    [[nodiscard]] TextView LabelOf(int index) const;
+    [[nodiscard]] std::optional<SurfacePicture> PictureAtCursor() const;
+    [[nodiscard]] std::optional<SurfacePicture> PictureBeforeCursor() const;
+    [[nodiscard]] int SentenceStart(int from) const;
+    void DeleteRight(std::size_t length);
+    void Type(TextView text);
+
+    std::unique_ptr<TextSurface> textBox;
+    CKeyboard& keyboard;
+    Desktop& desktop;
+    MessageQueue& queue;
+    UnitEndPosting unitEnds;
+    BlockedKeys blockedKeys;
+    std::optional<std::int32_t> lastMousePosition;
+    std::vector<Text> imageLabels;
+    std::vector<Text> imageTags;
+};
+
+} // namespace ondrilo
