@@ -37,8 +37,11 @@ struct SystemOption {
     std::size_t index;
 };
 
-#define SYSTEM_OPTION(kind, key)                                                                             \
-    { #key, SystemOptionKind::kind, static_cast < std::size_t>(system_option::key) }
+template <typename Option>
+constexpr SystemOption SystemOptionRow(TextView key, SystemOptionKind kind, Option option) {
+    return {key, kind, static_cast<std::size_t>(option)};
+}
+#define SYSTEM_OPTION(kind, key) SystemOptionRow(#key, SystemOptionKind::kind, system_option::key)
 /// In the order of the file. The server's name stands in it twice; the reader keeps the second.
 inline constexpr SystemOption kSystemOptions[] = {
     SYSTEM_OPTION(Integer, ADAPTACAO_CONTEXTO),

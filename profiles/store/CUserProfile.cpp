@@ -1,0 +1,34 @@
+#include "profiles/store/CUserProfile.h"
+
+namespace ondrilo {
+
+void CUserProfile::CopyOptionsOf(const CUserProfile& other) {
+    auto copy = other.properties;
+    copy.profileName = properties.profileName;
+    copy.filePath = properties.filePath;
+    properties = std::move(copy);
+    changed = true;
+}
+
+void CUserProfile::Load(const std::filesystem::path& path) {
+    changed = true;
+    properties.Load(path);
+}
+
+SaveResult CUserProfile::Save() const {
+    return changed ? properties.Save() : SaveResult{};
+}
+
+std::vector<Text> CUserProfile::LoadDictionary() {
+    return dictionary.LoadProfileDictionaries(DataFolder(properties.dictionaryFolder), properties.profileName,
+                                              properties.IsOn(option::ADAPTACAO_UTILIZADOR));
+}
+
+SaveResult CUserProfile::ReleaseDictionary() {
+    auto abbreviations = dictionary.abbreviations.Save();
+    auto vocabulary = dictionary.SaveUserFiles();
+    dictionary.Clear();
+    return vocabulary ? abbreviations : vocabulary;
+}
+
+} // namespace ondrilo
