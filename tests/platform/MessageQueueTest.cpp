@@ -1,0 +1,113 @@
+#include "platform/MessageQueue.h"
+
+#include <gmock/gmock.h>
+
+#include <thread>
+#include <vector>
+
+namespace ondrilo {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class MessageQueueTest : public testing::Test {
+  protected:
+    void Drain() {
+        queue.Drain([this](const MessageEvent& event) { handled.push_back(event.first); });
+    }
+    void Post(int number) { queue.Post(Message::UM_CHAR, number); }
+
+    MessageQueue queue;
+    std::vector<int> handled;
+};
+
+TEST_F(MessageQueueTest, WhatAHandlerPostsComesAfterWhatWasThereAndInTheSameDrain) {
+    Post(1);
+    Post(2);
+    queue.Drain([this](const MessageEvent& event) {
+        handled.push_back(event.first);
+        if (event.first == 1)
+            Post(3);
+    });
+    EXPECT_THAT(handled, ElementsAre(1, 2, 3));
+}
+
+TEST_F(MessageQueueTest, ADialogsLoopInsideAHandlerGoesOnWithTheNextEvent) {
+    for (const int number : {1, 2, 3})
+        Post(number);
+    queue.Drain([this](const MessageEvent& event) {
+        if (event.first == 1)
+            Drain();
+        handled.push_back(event.first);
+    });
+    EXPECT_THAT(handled, ElementsAre(2, 3, 1)) << "each once, and the outer handler ends last";
+}
+
+TEST_F(MessageQueueTest, NothingIsHandledWhileHeldAndTheLastReleaseWakesTheLoop) {
+    int wakes = 0;
+    queue.OnPost([&wakes] { ++wakes; });
+    {
+        const auto outer = MessageQueue::Hold(queue);
+        {
+            const auto inner = MessageQueue::Hold(queue);
+            Post(1);
+        }
+        Drain();
+        EXPECT_THAT(handled, IsEmpty());
+        EXPECT_EQ(wakes, 1);
+    }
+    EXPECT_EQ(wakes, 2) << "else what was posted meanwhile would wait for the next event";
+    Drain();
+    EXPECT_THAT(handled, ElementsAre(1));
+}
+
+TEST_F(MessageQueueTest, AHoldBegunByAHandlerStopsTheDrainAndClearThrowsAwayWhatWaits) {
+    Post(1);
+    Post(2);
+    std::vector<MessageQueue::Hold> holds;
+    queue.Drain([&](const MessageEvent& event) {
+        handled.push_back(event.first);
+        holds.emplace_back(queue);
+    });
+    EXPECT_THAT(handled, ElementsAre(1));
+    queue.Clear();
+    holds.clear();
+    Drain();
+    EXPECT_THAT(handled, ElementsAre(1));
+    EXPECT_FALSE(queue.IsHeld());
+}
+
+TEST_F(MessageQueueTest, PostingNeverRunsAHandlerAndAWakeMayPostItself) {
+    bool posted = false;
+    queue.OnPost([&] {
+        if (!std::exchange(posted, true))
+            Post(2);
+    });
+    Post(1);
+    EXPECT_THAT(handled, IsEmpty());
+    Drain();
+    EXPECT_THAT(handled, ElementsAre(1, 2));
+}
+
+TEST_F(MessageQueueTest, ThreadsThatPostLoseNothingAndKeepTheirOwnOrder) {
+    constexpr int kEach = 2000;
+    std::vector<std::thread> threads;
+    for (int thread = 0; thread < 3; ++thread)
+        threads.emplace_back([this, thread] {
+            for (int i = 0; i < kEach; ++i)
+                queue.Post(Message::UM_KEY_DOWN, thread, i);
+        });
+    std::vector<int> next(3, 0);
+    int count = 0;
+    while (count < 3 * kEach)
+        queue.Drain([&](const MessageEvent& event) {
+            EXPECT_EQ(event.second, next.at(static_cast<std::size_t>(event.first))++);
+            ++count;
+        });
+    for (auto& thread : threads)
+        thread.join();
+}
+
+} // namespace
+} // namespace ondrilo
