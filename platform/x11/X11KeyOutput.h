@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/Keyboard.h"
+
+#include <memory>
+
+namespace ondrilo {
+
+/// Types into the focused window of the X server, over a connection of its own.
+///
+/// A character goes out as the key of the person's layout that writes it at once; a letter with an accent or
+/// a sign that the layout has only behind dead keys, or not at all, goes out through one of the layout's
+/// spare keycodes. Caps Lock and keys that we hold act on what is typed as they act on the person's typing;
+/// modifiers that the person holds are lifted meanwhile. What we hold is released on every way out of the
+/// process, a kill included.
+class X11KeyOutput : public KeyOutput {
+  public:
+    X11KeyOutput();
+    ~X11KeyOutput() override;
+
+    /// False if there is no X server with the extensions needed; then nothing is typed.
+    [[nodiscard]] bool IsAvailable() const;
+    [[nodiscard]] std::optional<LayoutKey> KeyOf(char c) const override;
+    void TypeCharacter(char c) override;
+    void KeyDown(int code) override;
+    void KeyUp(int code) override;
+    [[nodiscard]] bool IsCapsLockOn() const override;
+    /// The name of a virtual key for the log: that of a special key, or what the key writes on the layout.
+    [[nodiscard]] Text KeyName(int code) const;
+
+  private:
+    class Implementation;
+    std::unique_ptr<Implementation> implementation;
+};
+
+} // namespace ondrilo
