@@ -1,0 +1,76 @@
+#pragma once
+
+#include "platform/FileStore.h"
+#include "prediction/Vocabulary.h"
+
+#include <filesystem>
+#include <vector>
+
+namespace ondrilo {
+
+/// Sums of the counters of all records; 32 bits, wrapping.
+struct VocabularyTotals {
+    int general = 0;
+    int generalPairs = 0;
+    int user = 0;
+    int userPairs = 0;
+};
+
+/// In what words and sentences differ.
+struct SideRules {
+    /// Longest read of a line of an entry file, in bytes.
+    std::size_t lineLimit;
+    /// Longest entry in a pair file, in bytes.
+    std::size_t tokenLimit;
+    /// An entry of the user's is shorter than this, in characters.
+    std::size_t lengthLimit;
+    /// Sentences are stored normalised and have no class.
+    bool sentences;
+    TextView noGeneral, noGeneralPairs, noUser, noUserPairs;
+};
+
+/// One side of a dictionary, words or sentences: the vocabulary with its four files, totals and changed
+/// flags. In the files the blanks of an entry are "|"; a file that is open but holds nonsense yields what of
+/// it parses.
+class DictionarySide {
+  public:
+    explicit DictionarySide(const SideRules& rules) : rules(rules) {}
+
+    /// Each returns the message to show, empty if there is none.
+    Text LoadGeneral(const std::filesystem::path& path);
+    Text LoadGeneralPairs(const std::filesystem::path& path);
+    Text LoadUser(const std::filesystem::path& path);
+    Text LoadUserPairs(const std::filesystem::path& path);
+    /// The four above from their remembered paths.
+    std::vector<Text> Reload();
+    SaveResult SaveUserPairs();
+    SaveResult SaveUser();
+    void Clear();
+
+    void AddUser(TextView text, int count);
+    void AddUserPair(TextView first, TextView second, int count);
+    bool SetUserFrequency(TextView text, int value);
+    void RemoveRarest();
+
+    /// `text` in the form in which this side stores it.
+    [[nodiscard]] Text StoredForm(TextView text) const;
+    [[nodiscard]] const Vocabulary& Entries() const { return entries; }
+    [[nodiscard]] const VocabularyTotals& Totals() const { return totals; }
+    [[nodiscard]] bool UserChanged() const { return userChanged; }
+    [[nodiscard]] bool UserPairsChanged() const { return userPairsChanged; }
+
+  private:
+    template <typename Visit>
+    void ForEachKnownPair(TextView bytes, Visit visit) const;
+    [[nodiscard]] Vocabulary::Found Find(TextView text) const { return entries.Find(StoredForm(text)); }
+    void SetUserFrequency(EntryId entry, int value);
+
+    const SideRules& rules;
+    Vocabulary entries;
+    VocabularyTotals totals;
+    bool userChanged = false;
+    bool userPairsChanged = false;
+    std::filesystem::path generalPath, generalPairsPath, userPath, userPairsPath;
+};
+
+} // namespace ondrilo

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "prediction/TextPool.h"
+
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+namespace ondrilo {
+
+/// Number of an entry within its vocabulary; does not change while the vocabulary is loaded.
+using EntryId = std::uint32_t;
+inline constexpr EntryId kNoEntry = std::numeric_limits<EntryId>::max();
+
+/// Number of a word class within its vocabulary; 0 is the class of the words that have none.
+using ClassId = std::uint32_t;
+
+/// Position in `count` ascending texts at which `text` stands or would be inserted. Texts that do not ascend
+/// lead the search astray in a fixed way, never out of bounds.
+template <typename TextAt>
+std::size_t SearchPosition(std::size_t count, TextView text, TextAt textAt) {
+    if (count == 0)
+        return 0;
+    std::size_t low = 0;
+    std::size_t high = count - 1;
+    while (low < high) {
+        const std::size_t middle = (low + high) / 2;
+        if (text <= textAt(middle))
+            high = middle;
+        else
+            low = middle + 1;
+    }
+    return text <= textAt(low) ? low : low + 1;
+}
+
+/// The words or sentences of one general file, in the order of the file, which should be ascending. Filled
+/// once; afterwards nothing changes it, so that several profiles can share it. The number of an entry is its
+/// position.
+class GeneralEntries {
+  public:
+    void Add(TextView text, int frequency, TextView className = {});
+    /// To be called once all entries are in.
+    void Finish();
+
+    [[nodiscard]] std::size_t Count() const { return texts.Count(); }
+    [[nodiscard]] TextView TextOf(EntryId entry) const { return texts.Get(entry); }
+    [[nodiscard]] int Frequency(EntryId entry) const { return frequencies[entry]; }
+    [[nodiscard]] ClassId ClassOf(EntryId entry) const { return classes[entry]; }
+    /// The names of all classes, by number.
+    [[nodiscard]] const std::vector<Text>& ClassNames() const { return classNames; }
+    /// True if the entries are strictly ascending, so that order of numbers is order of texts.
+    [[nodiscard]] bool Ascending() const { return ascending; }
+    /// The entry of that text, or kNoEntry; only where the entries ascend.
+    [[nodiscard]] EntryId Find(TextView text) const;
+
+  private:
+    ClassId Intern(TextView className);
+
+    TextPool texts;
+    std::vector<int> frequencies;
+    std::vector<ClassId> classes;
+    std::vector<Text> classNames{Text()};
+    std::unordered_map<Text, ClassId> classIds{{Text(), 0}};
+    bool ascending = true;
+    /// Open addressing over the hash of the texts, twice as many slots as entries at least.
+    std::vector<EntryId> slots;
+};
+
+} // namespace ondrilo
