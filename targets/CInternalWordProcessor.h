@@ -91,13 +91,15 @@ class CInternalWordProcessor : public CWordProcessor, private TextSurfaceListene
     void OnMouseButton(Message button) override;
     void OnPointerMoved(Point position) override;
 
-    [[nodiscard]] SurfaceText Labelled() const;
-    [[nodiscard]] SurfaceText Tagged() const;
-    [[nodiscard]] TextView LabelOf(int index) const;
+    /// The text around the insertion point, with the plain labels or the tags in the place of the pictures.
+    [[nodiscard]] TextContext Labelled() const;
+    [[nodiscard]] TextContext Tagged() const;
     [[nodiscard]] std::optional<SurfacePicture> PictureAtCursor() const;
     [[nodiscard]] std::optional<SurfacePicture> PictureBeforeCursor() const;
-    [[nodiscard]] int SentenceStart(int from) const;
+    /// The position after the last terminator, in the text or in a picture's label, before `end`.
+    [[nodiscard]] int SentenceStart(int end) const;
     void DeleteRight(std::size_t length);
+    void ClearRange(int start, int end);
     void Type(TextView text);
 
     std::unique_ptr<TextSurface> textBox;

@@ -3,18 +3,18 @@
 #include "targets/TextContext.h"
 #include "targets/TextSurface.h"
 
-#include <functional>
 #include <vector>
 
 namespace ondrilo {
 
+/// The label with that number; empty for a picture that has none yet.
+[[nodiscard]] TextView LabelAt(const std::vector<Text>& labels, int index);
+
 /// The text of a box as the queries tell it: "\r\n" for each line break and, in front of each picture's
-/// blank, the label that `labelOf` gives for the picture's number. It knows where each position of the box
-/// lies in that text.
+/// blank, the picture's label. It knows where each position of the box lies in that text.
 class SurfaceText {
   public:
-    using LabelOf = std::function<TextView(int index)>;
-    SurfaceText(const TextSurface& surface, const LabelOf& labelOf);
+    SurfaceText(const TextSurface& surface, const std::vector<Text>& labels);
 
     /// The told text around the box's insertion point.
     [[nodiscard]] TextContext Context() const { return {text, offsets[cursor]}; }
@@ -25,7 +25,7 @@ class SurfaceText {
 
   private:
     Text text;
-    std::vector<std::size_t> offsets; // told place of each position of the box, the end included
+    std::vector<std::size_t> offsets; // told place of each position of the box, its end included
     std::size_t cursor;
 };
 

@@ -1,0 +1,186 @@
+#include "targets/CKeyboard.h"
+
+#include "text/CaseFolding.h"
+#include "text/Splitter.h"
+
+#include <algorithm>
+#include <bit>
+
+namespace ondrilo {
+namespace {
+
+// "Ì" has a small base, as on the keyboards that this table was made for: typing it gives "ì".
+constexpr TextView kAccented = "ÀÁÂÃÈÉÊÌÍÎÒÓÔÕÙÚÛàáâãèéêìíîòóôõùúû"_w;
+constexpr TextView kDeadKeys = "`´^~`´^`´^`´^~`´^`´^~`´^`´^`´^~`´^"_w;
+constexpr TextView kBases = "AAAAEEEiIIOOOOUUUaaaaeeeiiioooouuu";
+static_assert(kAccented.size() == kDeadKeys.size() && kAccented.size() == kBases.size());
+
+struct NamedKey {
+    TextView name;
+    int code;
+    bool reserved;
+};
+
+constexpr NamedKey kNamedKeys[] = {
+    {"BkSp", vk::Backspace, true},   {"Enter", vk::Enter, true},       {"Space", vk::Space, true},
+    {"Tab", vk::Tab, false},         {"CapsLock", vk::CapsLock, true}, {"Esquerda", vk::Left, true},
+    {"Direita", vk::Right, true},    {"Cima", vk::Up, true},           {"Baixo", vk::Down, true},
+    {"Alt", vk::Alt, true},          {"Ctrl", vk::Control, true},      {"Shift", vk::Shift, true},
+    {"Home", vk::Home, false},       {"End", vk::End, false},          {"Pgup", vk::PageUp, false},
+    {"Pgdown", vk::PageDown, false}, {"Ins", vk::Insert, false},       {"Del", vk::Delete, false},
+};
+
+using Combinations = std::vector<Tokens>;
+
+/// The key names of each combination of a sequence.
+Combinations SplitSequence(TextView sequence) {
+    Combinations combinations;
+    for (const Text& combination : Split(sequence, " {}", kAllTokens))
+        combinations.push_back(Split(combination, "+", kAllTokens));
+    return combinations;
+}
+
+} // namespace
+
+void CKeyboard::Initialize() {
+    keySet.Clear();
+    LoadStandardKeys();
+}
+
+void CKeyboard::LoadStandardKeys() {
+    for (const auto& [name, code, reserved] : kNamedKeys)
+        keySet.AddKey(name, code, reserved, false);
+    for (int number = 1; number <= 12; ++number)
+        keySet.AddKey("F" + std::to_string(number), vk::F1 + number - 1, number <= 10, false);
+    for (int digit = 0; digit <= 9; ++digit)
+        keySet.AddKey("Num" + std::to_string(digit), vk::Num0 + digit, false, false);
+    for (char digit = '0'; digit <= '9'; ++digit)
+        keySet.AddKey({&digit, 1}, digit, true);
+    for (char letter = 'a'; letter <= 'z'; ++letter)
+        keySet.AddKey({&letter, 1}, MakeUpper(letter), true);
+}
+
+void CKeyboard::TypeText(TextView text) {
+    for (const char c : text)
+        TypeChar(c);
+}
+
+void CKeyboard::TypeChar(char c) {
+    if (c == '\r')
+        return;
+    if (c == '\n')
+        Tap(vk::Enter);
+    else
+        output.TypeCharacter(c);
+}
+
+void CKeyboard::Backspace(int times) {
+    for (int i = 0; i < times; ++i)
+        Tap(vk::Backspace);
+}
+
+std::optional<int> CKeyboard::CodeOf(TextView name) const {
+    name = Trim(name);
+    if (const auto code = keySet.GetCode(name))
+        return code;
+    const auto key = name.empty() ? std::nullopt : output.KeyOf(name.front());
+    return key ? std::optional(key->code) : std::nullopt;
+}
+
+void CKeyboard::Tap(int code) {
+    output.KeyDown(code);
+    output.KeyUp(code);
+}
+
+void CKeyboard::PressKey(TextView name) {
+    const auto code = CodeOf(name);
+    if (!code)
+        return;
+    output.KeyDown(*code);
+    if (std::find(held.begin(), held.end(), *code) == held.end())
+        held.push_back(*code);
+}
+
+void CKeyboard::ReleaseKey(TextView name) {
+    const auto code = CodeOf(name);
+    if (!code)
+        return;
+    output.KeyUp(*code);
+    std::erase(held, *code);
+}
+
+void CKeyboard::ReleaseAll() {
+    for (; !held.empty(); held.pop_back())
+        output.KeyUp(held.back());
+}
+
+void CKeyboard::TapKey(TextView name) {
+    if (const auto code = keySet.GetCode(name))
+        Tap(*code);
+    else
+        TypeText(name);
+}
+
+void CKeyboard::PlaySequence(TextView sequence) {
+    for (const Tokens& names : SplitSequence(sequence)) {
+        std::for_each(names.begin(), names.end(), [this](const Text& name) { PressKey(name); });
+        std::for_each(names.rbegin(), names.rend(), [this](const Text& name) { ReleaseKey(name); });
+    }
+}
+
+Text CKeyboard::SwapCase(TextView text) {
+    Text swapped(text);
+    for (char& c : swapped) {
+        const char capital = MakeUpper(c);
+        c = capital != c ? capital : MakeLower(c);
+    }
+    return swapped;
+}
+
+int CKeyboard::CountKeys(TextView text) const {
+    if (keySet.GetCode(text))
+        return 1;
+    int count = 0;
+    for (const char c : text)
+        count += CountChar(c);
+    return count;
+}
+
+int CKeyboard::CountChar(char c) const {
+    if (c == '\n' || c == '\r')
+        return c == '\n' ? 1 : 0;
+    int count = 0;
+    for (const char stroke : TypedCharacters({&c, 1}))
+        if (const auto key = output.KeyOf(stroke))
+            count += 1 + std::popcount(key->shift);
+    return count;
+}
+
+int CKeyboard::CountSequenceKeys(TextView sequence) {
+    std::size_t count = 0;
+    for (const Tokens& names : SplitSequence(sequence))
+        count += names.size();
+    return static_cast<int>(count);
+}
+
+bool CKeyboard::IsPrintingKey(TextView name) const {
+    const auto code = keySet.GetCode(name);
+    if (!code)
+        return true;
+    auto isIn = [code](int first, int last) {
+        return *code >= first && *code <= last;
+    };
+    return *code == vk::Space || isIn('0', '9') || isIn('A', 'Z') || isIn(vk::Num0, vk::NumDivide);
+}
+
+Text TypedCharacters(TextView text) {
+    Text strokes;
+    for (const char c : text)
+        if (const auto accented = kAccented.find(c); accented != TextView::npos)
+            (strokes += kDeadKeys[accented]) += kBases[accented];
+        else
+            strokes += c;
+    return strokes;
+}
+
+} // namespace ondrilo
