@@ -110,14 +110,15 @@ class COnScreenKeyboard {
     using Observers = std::vector<KeyboardObserver*>;
     struct Observation;
 
-    [[nodiscard]] COnScreenKey* Find(COnScreenKeyIdentifier identifier);
     template <typename Change>
     void ChangeKey(COnScreenKeyIdentifier identifier, Change change);
     template <typename Notice>
     void Tell(Notice notice) const;
     void TakeSettings(const KeyboardSettings& profileSettings);
-    void Fill(const KeyboardContent& content);
-    [[nodiscard]] COnScreenKey MakeKey(COnScreenKeyData data) const;
+    void TakeOwnHeights(int keyHeight, int imageHeight);
+    void Fill(const KeyboardContent& content, const KeyboardSettings& profileSettings);
+    [[nodiscard]] COnScreenKey MakeKey(const COnScreenKeyData& data) const;
+    void TellAllKeysChanged() const;
     [[nodiscard]] KeyboardContent Content() const;
 
     bool open = false;

@@ -9,7 +9,6 @@ namespace ondrilo {
 /// What a profile says about the look and behaviour of keyboards. Lengths in logical pixels.
 struct KeyboardSettings {
     Font font;
-    int predictionLetters = 17; ///< characters that a word prediction key holds
 
     Color backgroundColor = 0; ///< of keys without a colour of their own
     Color textColor = 0;

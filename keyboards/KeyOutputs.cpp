@@ -1,0 +1,62 @@
+#include "keyboards/KeyOutputs.h"
+
+#include "keyboards/KeySymbol.h"
+#include "keyboards/Pictograms.h"
+#include "text/CaseFolding.h"
+#include "text/NormalForm.h"
+#include "text/Splitter.h"
+
+namespace ondrilo {
+namespace {
+
+bool IsEnclosed(TextView text, char opening, char closing) {
+    return text.size() >= 2 && text.front() == opening && text.back() == closing;
+}
+
+} // namespace
+
+OutputKind KindOfOutput(TextView output) {
+    if (IsKeyboardLink(output))
+        return OutputKind::KeyboardLink;
+    if (IsProgram(output))
+        return OutputKind::Program;
+    if (IsKeySequence(output))
+        return OutputKind::Sequence;
+    if (IsCommand(output))
+        return OutputKind::Command;
+    return HasPictograms(output) ? OutputKind::Pictogram : OutputKind::Text;
+}
+
+bool IsKeyboardLink(TextView output) {
+    return MakeLower(output).ends_with(".tec");
+}
+
+bool HasLinkMark(TextView output) {
+    return output.ends_with(".tec");
+}
+
+bool IsProgram(TextView output) {
+    const Text folded = MakeLower(output);
+    return folded.ends_with(".exe") || folded.ends_with(".com");
+}
+
+bool IsKeySequence(TextView output) {
+    return IsEnclosed(Trim(output), '{', '}');
+}
+
+bool IsCommand(TextView output) {
+    return IsEnclosed(output, '[', ']');
+}
+
+CommandCall ParseCommand(TextView output) {
+    Tokens words = Split(WithoutBrackets(output), " ");
+    words.resize(2);
+    return {std::move(words[0]), std::move(words[1])};
+}
+
+bool IsWrappedLabel(TextView label) {
+    const auto words = Split(label).size();
+    return words > 2 || (words > 0 && label.find_first_of(kTerminators) != TextView::npos);
+}
+
+} // namespace ondrilo
