@@ -1,5 +1,7 @@
 #include "tests/conformance/Area.h"
 
+#include "text/LineReader.h"
+
 #include <array>
 #include <cstdio>
 
@@ -16,6 +18,23 @@ std::optional<Values> Area::Answer(const Text& operation, const Arguments& argum
     if (handler == handlers.end())
         return std::nullopt;
     return handler->second(arguments);
+}
+
+void Area::OnFile(const std::filesystem::path& folder) {
+    On("file", [folder](const Arguments& a) { return Values{ReadFile(folder / ToUtf8(a.at(0))).bytes}; });
+    On("file_lines_sorted", [folder](const Arguments& a) {
+        const FileBytes file = ReadFile(folder / ToUtf8(a.at(0)));
+        LineReader reader(file.bytes, TextView::npos);
+        Values lines;
+        while (const auto line = reader.Next())
+            lines.push_back(Text(*line) + "\n");
+        std::sort(lines.begin(), lines.end());
+        return lines;
+    });
+}
+
+Values Area::Problem(const SaveResult& result) {
+    return result ? Values{} : Values{result.problem};
 }
 
 } // namespace ondrilo::conformance

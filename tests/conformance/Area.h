@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/FileStore.h"
 #include "text/Text.h"
 
 #include <charconv>
@@ -51,6 +52,10 @@ class Area {
 
   protected:
     void On(const Text& operation, Handler handler) { handlers[operation] = std::move(handler); }
+    /// The operations on the content of a file in `folder`.
+    void OnFile(const std::filesystem::path& folder);
+    /// No values for a save that went well.
+    static Values Problem(const SaveResult& result);
 
   private:
     std::map<Text, Handler> handlers;

@@ -1,4 +1,9 @@
 #include "platform/FileStore.h"
+#include "tests/conformance/KeyboardArea.h"
+#include "tests/conformance/KeysArea.h"
+#include "tests/conformance/LayoutArea.h"
+#include "tests/conformance/OptionsArea.h"
+#include "tests/conformance/ProfileArea.h"
 #include "tests/conformance/QueryFile.h"
 #include "tests/conformance/TextArea.h"
 #include "tests/support/TemporaryFolder.h"
@@ -16,7 +21,10 @@ constexpr int kSkipped = 77;
 
 const std::map<std::string, AreaMaker>& Areas() {
     static const std::map<std::string, AreaMaker> areas{
-        {"text", MakerOf<TextArea>()},
+        {"options", MakerOf<OptionsArea>()},   {"profile", MakerOf<ProfileArea>()},
+        {"keyboard", MakerOf<KeyboardArea>()}, {"keys", MakerOf<KeysArea>()},
+        {"layout", MakerOf<LayoutArea>()},     {"options", MakerOf<OptionsArea>()},
+        {"profile", MakerOf<ProfileArea>()},   {"text", MakerOf<TextArea>()},
     };
     return areas;
 }
