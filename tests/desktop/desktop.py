@@ -1,0 +1,205 @@
+"""A private desktop for one story: X server, window manager, message bus and data folder of its own.
+
+The person is played by real pointer and key events (xdotool); what they would see or hear is read back
+through the accessibility tree. Everything waits for a condition with a deadline, and everything that was
+started is stopped again.
+"""
+
+import os
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+from pathlib import Path
+
+SCREEN = '1280x800x24'
+
+
+class Failure(Exception):
+    """A story that did not go as told."""
+
+
+def wait_for(condition, what, seconds=15.0):
+    """The first true value of condition(), or a Failure that names what was waited for."""
+    deadline = time.monotonic() + seconds
+    while True:
+        value = condition()
+        if value:
+            return value
+        if time.monotonic() > deadline:
+            raise Failure('waited %g s in vain for %s' % (seconds, what))
+        time.sleep(0.02)
+
+
+class Desktop:
+    """Use as a context manager; `folder` holds all files of the story."""
+
+    def __init__(self, folder=None):
+        self.keep = folder is not None
+        self.folder = Path(folder or tempfile.mkdtemp(prefix='ondrilo-desktop-'))
+        self.processes = []
+
+    def __enter__(self):
+        try:
+            self._start()
+        except BaseException:
+            self.close()
+            raise
+        return self
+
+    def __exit__(self, *_):
+        self.close()
+
+    def _start(self):
+        for name, value in {'XDG_DATA_HOME': 'data', 'XDG_CONFIG_HOME': 'config', 'XDG_RUNTIME_DIR': 'runtime',
+                            'XDG_CONFIG_DIRS': 'system', 'HOME': 'home'}.items():
+            path = self.folder / value
+            path.mkdir(parents=True, exist_ok=True)
+            path.chmod(0o700)
+            os.environ[name] = str(path)
+        for name in ('QT_QPA_PLATFORM', 'QT_SCALE_FACTOR', 'WAYLAND_DISPLAY', 'XAUTHORITY', 'SESSION_MANAGER'):
+            os.environ.pop(name, None)
+        os.environ['QT_LINUX_ACCESSIBILITY_ALWAYS_ON'] = '1'
+        os.environ['DISPLAY'] = ':' + self._answer(['Xvfb', '-displayfd', '1', '-screen', '0', SCREEN,
+                                                    '-nolisten', 'tcp'])
+        os.environ['DBUS_SESSION_BUS_ADDRESS'] = self._answer(['dbus-daemon', '--session', '--nofork',
+                                                               '--print-address=1'])
+        self.start(['openbox'])
+        wait_for(lambda: b'window id' in subprocess.run(['xprop', '-root', '_NET_SUPPORTING_WM_CHECK'],
+                                                        capture_output=True).stdout, 'the window manager')
+
+    def _answer(self, command):
+        """Starts a server and reads the one line in which it says where it can be reached."""
+        process = self.start(command, stdout=subprocess.PIPE)
+        line = process.stdout.readline().decode().strip()
+        if not line:
+            raise Failure('%s did not start' % command[0])
+        return line
+
+    def start(self, command, **options):
+        options.setdefault('stdout', subprocess.DEVNULL)
+        options.setdefault('stderr', subprocess.DEVNULL)
+        process = subprocess.Popen(command, start_new_session=True, **options)
+        self.processes.append(process)
+        return process
+
+    def close(self):
+        for process in reversed(self.processes):
+            for number in (signal.SIGTERM, signal.SIGKILL):
+                try:
+                    os.killpg(process.pid, number)
+                    process.wait(3)
+                    break
+                except (ProcessLookupError, subprocess.TimeoutExpired):
+                    continue
+        self.processes.clear()
+        if not self.keep:
+            shutil.rmtree(self.folder, ignore_errors=True)
+
+    def install(self, delivered):
+        """What an installer leaves behind: the note of the installation folder, and that folder's files."""
+        note = self.folder / 'system' / 'Norvane' / 'Ondrilo 3.0'
+        note.mkdir(parents=True, exist_ok=True)
+        (note / 'Settings').write_text('Path=%s\n' % delivered)
+
+    @property
+    def data(self):
+        return self.folder / 'data' / 'Norvane' / 'Ondrilo 3.0'
+
+    def xdotool(self, *words):
+        return subprocess.run(['xdotool', *map(str, words)], check=True, capture_output=True, text=True).stdout
+
+    def press(self, *keys):
+        """Key names of X, such as "F1" or "shift+a", one after the other."""
+        self.xdotool('key', '--delay', '60', *keys)
+
+    def click(self, x, y):
+        self.xdotool('mousemove', x, y, 'click', 1)
+
+    def active_title(self):
+        result = subprocess.run(['xdotool', 'getactivewindow', 'getwindowname'], capture_output=True, text=True)
+        return result.stdout.strip()
+
+    def picture(self, path):
+        subprocess.run(['import', '-window', 'root', str(path)], check=True)
+
+
+class Program:
+    """The running program as a person meets it."""
+
+    NAME = 'ondrilo'
+
+    def __init__(self, desktop, path):
+        self.desktop = desktop
+        self.process = desktop.start([str(path)], stderr=None)
+        import gi  # needs the display and bus of the story in the environment
+        gi.require_version('Atspi', '2.0')
+        from gi.repository import Atspi
+        self.atspi = Atspi
+        self.window = wait_for(self._window, 'the window of the program', 30)
+
+    def _window(self):
+        desktop = self.atspi.get_desktop(0)
+        desktop.clear_cache()
+        for i in range(desktop.get_child_count()):
+            application = desktop.get_child_at_index(i)
+            if application and application.get_name() == self.NAME:
+                for j in range(application.get_child_count()):
+                    window = application.get_child_at_index(j)
+                    if window and 'Ondrilo V3.0' in (window.get_name() or ''):
+                        return window
+        return None
+
+    def all(self, accept):
+        """Every element of the window, in tree order, that `accept` likes and that shows."""
+        found = []
+
+        def walk(element):
+            if accept(element):
+                found.append(element)
+            for i in range(element.get_child_count()):
+                child = element.get_child_at_index(i)
+                if child:
+                    walk(child)
+        self.window.clear_cache()
+        walk(self.window)
+        return found
+
+    def key(self, name, seconds=15.0):
+        """The keyboard's key of that name (its description)."""
+        push_button = self.atspi.Role.PUSH_BUTTON
+        return wait_for(lambda: next(iter(self.all(
+            lambda e: e.get_role() == push_button and e.get_name() == name)), None), 'the key "%s"' % name, seconds)
+
+    def keys(self):
+        push_button = self.atspi.Role.PUSH_BUTTON
+        return [e.get_name() for e in self.all(lambda e: e.get_role() == push_button)]
+
+    def click(self, name):
+        extents = self.key(name).get_extents(self.atspi.CoordType.SCREEN)
+        self.desktop.click(extents.x + extents.width // 2, extents.y + extents.height // 2)
+
+    def text(self):
+        """The text of the internal editor."""
+        editor = next(iter(self.all(lambda e: e.get_role() == self.atspi.Role.TEXT and e.get_editable_text_iface())),
+                      None)
+        if editor is None:
+            raise Failure('there is no editor in the accessibility tree')
+        return self.atspi.Text.get_text(editor, 0, self.atspi.Text.get_character_count(editor))
+
+    def expect_text(self, text, seconds=10.0):
+        try:
+            wait_for(lambda: self.text() == text, '', seconds)
+        except Failure:
+            raise Failure('the editor holds %r, not %r' % (self.text(), text)) from None
+
+    def title(self):
+        self.window.clear_cache()
+        return self.window.get_name()
+
+    def quit(self, seconds=15.0):
+        """Closes the window as a person does and waits for the end; returns the exit code."""
+        window = self.desktop.xdotool('search', '--name', '^Ondrilo V3.0').split()[0]
+        self.desktop.xdotool('windowquit', window)
+        return self.process.wait(seconds)
