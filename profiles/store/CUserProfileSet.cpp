@@ -207,12 +207,12 @@ void CUserProfileSet::ReleaseDictionary(CUserProfile& profile) {
 }
 
 void CUserProfileSet::Tell(const SaveResult& result) {
-    // A folder that cannot be written fails at every save; the person is told once.
-    if (result || result.problem == lastTold)
+    // A folder that cannot be written fails at every save; the person is told once a file.
+    if (result || std::ranges::count(told, result.problem) > 0)
         return;
-    lastTold = result.problem;
+    told.push_back(result.problem);
     if (tell)
-        tell(lastTold);
+        tell(result.problem);
 }
 
 } // namespace ondrilo

@@ -74,7 +74,7 @@ class CUserProfileSet {
     MessageBoxes& boxes;
     Dialogs& dialogs;
     StatusSink tell;
-    Text lastTold;
+    std::vector<Text> told;
     std::vector<std::unique_ptr<CUserProfile>> profiles;
     int active = -1;
 };

@@ -1,0 +1,224 @@
+#include "profiles/store/CUserProfileSet.h"
+#include "tests/support/FakeDialogs.h"
+#include "tests/support/FakeMessageBoxes.h"
+#include "tests/support/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+namespace ondrilo {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// A data folder with general dictionaries and the profiles "generico", "ana" and "rui".
+class ProfileSet : public testing::Test {
+  protected:
+    ProfileSet() {
+        for (const auto* name : {"geral.pal", "geral.par", "geral.frs", "geral.paf"})
+            folder.Write(name, "");
+        folder.Write("geral.pal", "casa 5\ngato 3\n");
+        folder.Write("utils", "ana\nrui\n");
+        for (const auto* name : {"generico", "ana", "rui"})
+            AddVocabulary(name);
+    }
+
+    void AddVocabulary(const std::string& name) {
+        for (const auto* extension : {".pal", ".par", ".abr", ".frs", ".paf"})
+            folder.Write(name + extension, "");
+    }
+
+    bool Exists(const std::string& name) { return std::filesystem::exists(folder.Path() / name); }
+
+    TemporaryFolder folder;
+    FakeMessageBoxes boxes;
+    FakeDialogs dialogs;
+    std::vector<Text> told;
+    CUserProfileSet profiles{DataFolder(folder.Path()), boxes, dialogs, [this](TextView sentence) {
+                                 told.emplace_back(sentence);
+                             }};
+};
+
+TEST_F(ProfileSet, BeginsWithTheGenericProfileEvenWithoutAList) {
+    std::filesystem::remove(folder.Path() / "utils");
+    profiles.Load();
+    EXPECT_EQ(profiles.Count(), 1);
+    EXPECT_EQ(profiles.At(0).properties.profileName, "generico");
+    EXPECT_THROW((void)profiles.Active(), std::invalid_argument);
+    EXPECT_THROW((void)profiles.At(1), std::invalid_argument);
+}
+
+TEST_F(ProfileSet, ReadsTheListWordByWordAndTellsCaseApart) {
+    folder.Write("utils", "ana  rui\r\n\nAna");
+    profiles.Load();
+    EXPECT_THAT(profiles.GetProfileNames(), ElementsAre("generico", "ana", "rui", "Ana"));
+    EXPECT_EQ(profiles.FindProfile("Ana"), 3);
+    EXPECT_EQ(profiles.FindProfile("ANA"), -1);
+    EXPECT_TRUE(profiles.ProfileExists("rui"));
+    EXPECT_FALSE(profiles.ProfileExists("generico"));
+}
+
+TEST_F(ProfileSet, AnUnknownNameIsToldAndOpensTheGenericProfile) {
+    profiles.Load();
+    EXPECT_EQ(profiles.Open("eva"), 0);
+    EXPECT_THAT(boxes.shown,
+                ElementsAre("O perfil de utilizador eva não está disponível! Será carregado o perfil "
+                            "de utilizador genérico."_w));
+    EXPECT_EQ(profiles.Active().properties.profileName, "generico");
+}
+
+TEST_F(ProfileSet, MissingDictionariesAreToldInTheOrderInWhichTheyAreRead) {
+    folder.Write("utils", "eva\n");
+    profiles.Load();
+    profiles.Open("eva");
+    EXPECT_THAT(boxes.shown, ElementsAre("Erro na abertura do ficheiro de palavras do utilizador"_w,
+                                         "Erro na abertura do ficheiro de pares de palavras do utilizador."_w,
+                                         "Erro na abertura do ficheiro de frases do utilizador"_w,
+                                         "Erro na abertura do ficheiro de pares de frases do utilizador."_w));
+}
+
+TEST_F(ProfileSet, LeavingAProfileWritesItsOptionsAndWhatItLearned) {
+    profiles.Load();
+    profiles.Open("ana");
+    profiles.Active().dictionary.AddUserWord("gato", 2);
+    profiles.Active().dictionary.abbreviations.Set("bd", "bom dia");
+    profiles.Open("rui");
+    EXPECT_EQ(folder.Read("ana.pal"), "gato 2\n");
+    EXPECT_EQ(folder.Read("ana.abr"), "bd bom dia\n");
+    EXPECT_TRUE(Exists("ana.cfg"));
+    EXPECT_FALSE(Exists("rui.cfg"));
+    EXPECT_EQ(profiles.At(1).dictionary.WordCount(), 0);
+    EXPECT_EQ(profiles.Active().dictionary.WordCount(), 2);
+    EXPECT_THAT(told, IsEmpty());
+}
+
+TEST_F(ProfileSet, OpeningTheActiveProfileAgainReloadsItsDictionary) {
+    profiles.Load();
+    profiles.Open("ana");
+    folder.Write("ana.pal", "gato 7\nnovo 1\n");
+    profiles.Open("ana");
+    EXPECT_EQ(profiles.Active().dictionary.WordCount(), 3);
+}
+
+TEST_F(ProfileSet, ADictionaryKeptInMemoryIsReadOnceAndSavedAtTheEnd) {
+    folder.Write("ana.cfg", "MANTER_DICIONARIO_MEMORIA 1\n");
+    profiles.Load();
+    EXPECT_EQ(profiles.At(1).dictionary.WordCount(), 2);
+    profiles.Open("ana");
+    profiles.Active().dictionary.AddUserWord("novo");
+    profiles.Open("rui");
+    profiles.Open("ana");
+    EXPECT_EQ(profiles.Active().dictionary.WordCount(), 3);
+    EXPECT_EQ(folder.Read("ana.pal"), "");
+    profiles.Release();
+    profiles.Close();
+    EXPECT_EQ(folder.Read("ana.pal"), "novo 1\n");
+    EXPECT_EQ(profiles.Count(), 0);
+}
+
+TEST_F(ProfileSet, TheEndSavesTheActiveProfileWithItsDictionary) {
+    profiles.Load();
+    profiles.Open("ana");
+    profiles.Active().dictionary.AddUserWord("novo");
+    profiles.Active().Set(option::ALTURA_TECLAS, 77);
+    profiles.Release();
+    profiles.Close();
+    EXPECT_EQ(folder.Read("ana.pal"), "novo 1\n");
+    EXPECT_NE(folder.Read("ana.cfg").find("ALTURA_TECLAS 77\n"), Text::npos);
+    EXPECT_EQ(profiles.ActiveIndex(), -1);
+}
+
+TEST_F(ProfileSet, ANewProfileStartsFromTheBaseOptionsWithEmptyDictionaries) {
+    folder.Write("utils", "ana");
+    folder.Write("base.cfg", "ALTURA_TECLAS 91\n# nota\n");
+    folder.Write("eva.pal", "antigo 4\n");
+    profiles.Load();
+    profiles.Open("ana");
+    profiles.CreateProfile("eva");
+    EXPECT_EQ(folder.Read("utils"), "ana\neva\n");
+    EXPECT_EQ(folder.Read("eva.cfg"), "ALTURA_TECLAS 91\n# nota\n");
+    EXPECT_EQ(folder.Read("eva.pal"), "");
+    EXPECT_EQ(profiles.Active().properties.profileName, "eva");
+    EXPECT_EQ(profiles.Active().properties.Get(option::ALTURA_TECLAS), 91);
+    EXPECT_EQ(profiles.Active().dictionary.WordCount(), 2);
+    EXPECT_THAT(boxes.shown, IsEmpty());
+}
+
+TEST_F(ProfileSet, RemovingForgetsTheNameButKeepsTheFiles) {
+    profiles.Load();
+    profiles.Open("rui");
+    dialogs.chosenProfile = "ana";
+    boxes.answers = {Answer::Yes};
+    profiles.RemoveProfile();
+    EXPECT_THAT(boxes.shown, ElementsAre("Quer mesmo remover o perfil ana?"));
+    EXPECT_EQ(boxes.lastPreselected, Answer::No);
+    EXPECT_EQ(folder.Read("utils"), "rui\n");
+    EXPECT_TRUE(Exists("ana.pal"));
+    EXPECT_EQ(profiles.ActiveIndex(), 1);
+    EXPECT_EQ(profiles.Active().properties.profileName, "rui");
+}
+
+TEST_F(ProfileSet, TheGenericProfileAndTheActiveOneCannotBeRemoved) {
+    profiles.Load();
+    profiles.Open("ana");
+    dialogs.chosenProfile = "generico";
+    profiles.RemoveProfile();
+    dialogs.chosenProfile = "ana";
+    boxes.answers = {Answer::Yes};
+    profiles.RemoveProfile();
+    dialogs.chosenProfile = "rui";
+    boxes.answers = {Answer::No};
+    profiles.RemoveProfile();
+    dialogs.chosenProfile.reset();
+    profiles.RemoveProfile();
+    EXPECT_THAT(
+        boxes.shown,
+        ElementsAre("Não é possível apagar o perfil de utilizador genérico."_w,
+                    "Quer mesmo remover o perfil ana?",
+                    "Este perfil de utilizador encontra-se activo e por isso não pode ser removido."_w,
+                    "Quer mesmo remover o perfil rui?"));
+    EXPECT_EQ(profiles.Count(), 3);
+    EXPECT_EQ(folder.Read("utils"), "ana\nrui\n");
+}
+
+TEST_F(ProfileSet, CopyingOptionsKeepsNameFileAndDictionary) {
+    folder.Write("rui.cfg", "ALTURA_TECLAS 99\nNOME_TECLADO Frases\n");
+    profiles.Load();
+    profiles.Open("ana");
+    dialogs.chosenProfile = "rui";
+    EXPECT_TRUE(profiles.CopyFromProfile());
+    EXPECT_THAT(dialogs.offeredProfiles, ElementsAre("generico", "ana", "rui"));
+    EXPECT_EQ(profiles.Active().properties.profileName, "ana");
+    EXPECT_EQ(profiles.Active().dictionary.WordCount(), 2);
+    profiles.SaveActive();
+    EXPECT_NE(folder.Read("ana.cfg").find("ALTURA_TECLAS 99\n"), Text::npos);
+    EXPECT_EQ(folder.Read("rui.cfg"), "ALTURA_TECLAS 99\nNOME_TECLADO Frases\n");
+    dialogs.chosenProfile.reset();
+    EXPECT_FALSE(profiles.CopyFromProfile());
+}
+
+TEST_F(ProfileSet, AFolderThatIsGoneIsToldOnceAndNotAtEverySave) {
+    profiles.Load();
+    profiles.Open("ana");
+    profiles.Active().dictionary.AddUserWord("novo");
+    std::filesystem::remove_all(folder.Path());
+    profiles.SaveActive();
+    profiles.SaveActive();
+    EXPECT_EQ(told.size(), 1U);
+}
+
+TEST(ProfileFolder, NamesEveryOptionsFileAndTheKeyboardItOpensWith) {
+    const TemporaryFolder temporary;
+    temporary.Write("ana.cfg", "NOME_TECLADO Frases\n");
+    temporary.Write("Bia.CFG", "");
+    const DataFolder folder(temporary.Path());
+    EXPECT_THAT(GetProfileNamesInFolder(folder), ElementsAre("ana", "Bia"));
+    EXPECT_EQ(GetKeyboardFileOfProfile(folder, "ana"), "Frases.tec");
+    EXPECT_EQ(GetKeyboardNameOfProfile(folder, "nobody"), "QwertySimples");
+}
+
+} // namespace
+} // namespace ondrilo
