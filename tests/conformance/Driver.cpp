@@ -21,7 +21,6 @@ constexpr int kSkipped = 77;
 
 const std::map<std::string, AreaMaker>& Areas() {
     static const std::map<std::string, AreaMaker> areas{
-        {"options", MakerOf<OptionsArea>()},   {"profile", MakerOf<ProfileArea>()},
         {"keyboard", MakerOf<KeyboardArea>()}, {"keys", MakerOf<KeysArea>()},
         {"layout", MakerOf<LayoutArea>()},     {"options", MakerOf<OptionsArea>()},
         {"profile", MakerOf<ProfileArea>()},   {"text", MakerOf<TextArea>()},
