@@ -4,6 +4,7 @@
 #include "text/Text.h"
 
 #include <array>
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <utility>
@@ -41,7 +42,7 @@ class CAbbreviationExpansionSet {
 
     [[nodiscard]] static std::size_t BucketOf(TextView abbreviation);
     bool Erase(TextView abbreviation);
-    void Append(TextView abbreviation, TextView expansion);
+    void Put(TextView abbreviation, TextView expansion);
 
     std::array<Bucket, kBuckets> buckets;
     std::filesystem::path path;

@@ -129,6 +129,7 @@ class CDictionary {
     CAbbreviationExpansionSet abbreviations;
 
   private:
+    void LoadClasses(const DataFolder& folder);
     static Position Find(const DictionarySide& side, TextView text);
     static std::size_t NextSet(const DictionarySide& side, TextView text,
                                std::vector<DictionaryNextEntry>& out);

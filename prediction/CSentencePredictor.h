@@ -8,7 +8,8 @@ namespace ondrilo {
 
 class CUserProfileProperties;
 
-/// As CWordPredictor, for whole sentences: no weights, no classes, and texts are normalised here.
+/// As CWordPredictor, for whole sentences: no weights, no classes, and texts are normalised here. The profile
+/// is not consulted.
 class CSentencePredictor {
   public:
     void Predict(const CDictionary& dictionary, const CUserProfileProperties& profile,
@@ -22,8 +23,9 @@ class CSentencePredictor {
 
   private:
     void Start(const CDictionary& dictionary, TextView previousSentence);
-    void Gather(const Vocabulary& sentences, TextView prefix);
+    void AddContinuations(const Vocabulary& sentences, TextView prefix);
     void Score(const CDictionary& dictionary);
+    TextView Normalize(TextView text);
 
     CandidateScores candidates;
     EntryId previous = kNoEntry;

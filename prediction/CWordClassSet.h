@@ -7,6 +7,9 @@
 
 namespace ondrilo {
 
+/// Longest read of a line of a class file, in bytes.
+inline constexpr std::size_t kClassLineLimit = 79;
+
 /// The word classes with their frequencies in general texts. Names are data and mean nothing beyond equality.
 class CWordClassSet {
   public:

@@ -13,8 +13,8 @@ class CUserProfileProperties;
 /// served a dictionary of the same size.
 class CWordPredictor {
   public:
-    /// One prefix; both texts are folded here. Throws std::invalid_argument when a search finds more than
-    /// 100,000 candidates; then there are no results.
+    /// One prefix; both texts are folded here. Throws std::invalid_argument when more than 100,000 candidates
+    /// are found; then there are no results.
     void Predict(const CDictionary& dictionary, const CUserProfileProperties& profile, TextView previousWord,
                  TextView prefix);
     /// The same with alternative prefixes; where some are empty and some not, an empty one stands for the
@@ -28,11 +28,11 @@ class CWordPredictor {
     void Start(const CDictionary& dictionary, TextView previousWord);
     void Gather(const Vocabulary& words, TextView prefix);
     void Score(const CDictionary& dictionary, const CUserProfileProperties& profile);
-    void FillClassTerms(const CDictionary& dictionary, const CUserProfileProperties& profile);
+    void FillClassTerms(const CDictionary& dictionary, double weight);
+    TextView Fold(TextView text);
 
     CandidateScores candidates;
     EntryId previous = kNoEntry;
-    bool hasPrevious = false;
     /// What the class step adds to a candidate, by its class; empty where the step does not apply.
     std::vector<double> classTerms;
     Text folded;

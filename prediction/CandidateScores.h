@@ -42,17 +42,15 @@ class CandidateScores {
     std::size_t Best(std::size_t n, std::vector<DictionaryScore>& out);
 
   private:
-    void CollectSuccessorsOf(EntryId first);
-    void MarkSuccessors();
+    void CheckRoom(std::size_t further) const;
+    void MarkSuccessors(EntryId first);
     void UnmarkSuccessors();
-    [[nodiscard]] std::uint16_t MarkOf(EntryId candidate) const;
 
     const Vocabulary* vocabulary = nullptr;
     std::vector<EntryId> candidates;
     std::vector<double> scores;
     std::vector<SelectedScore> best;
     std::vector<Successor> successors;
-    std::vector<double> pairTerms;
     /// By entry: 1 + index in `successors`, 0 for an entry that is none. All 0 between predictions.
     std::vector<std::uint16_t> marks;
 };

@@ -18,7 +18,7 @@ class DictionaryEntry {
     [[nodiscard]] int Frequency() const { return vocabulary->Frequency(id); }
     [[nodiscard]] int UserFrequency() const { return vocabulary->UserFrequency(id); }
     /// Empty for sentences and for words without a class.
-    [[nodiscard]] const Text& WordClass() const { return vocabulary->ClassName(vocabulary->ClassOf(id)); }
+    [[nodiscard]] const Text& WordClass() const { return vocabulary->ClassNames()[vocabulary->ClassOf(id)]; }
     /// Number of successors that came from the general file.
     [[nodiscard]] int NextCount() const { return vocabulary->GeneralSuccessorCount(id); }
     /// Greatest counter over the successors, 0 if there is none.
@@ -26,6 +26,8 @@ class DictionaryEntry {
     [[nodiscard]] int MaxUserNextFrequency() const;
 
   private:
+    [[nodiscard]] int GreatestOverSuccessors(int Successor::*counter) const;
+
     const Vocabulary* vocabulary = nullptr;
     EntryId id = kNoEntry;
 };

@@ -8,7 +8,7 @@
 
 namespace ondrilo {
 
-/// Sums of the counters of all records; 32 bits, wrapping.
+/// Sums of the counters of all records.
 struct VocabularyTotals {
     int general = 0;
     int generalPairs = 0;
@@ -26,12 +26,12 @@ struct SideRules {
     std::size_t lengthLimit;
     /// Sentences are stored normalised and have no class.
     bool sentences;
+    /// What to tell the person when a file cannot be opened.
     TextView noGeneral, noGeneralPairs, noUser, noUserPairs;
 };
 
 /// One side of a dictionary, words or sentences: the vocabulary with its four files, totals and changed
-/// flags. In the files the blanks of an entry are "|"; a file that is open but holds nonsense yields what of
-/// it parses.
+/// flags. In the files the blanks of an entry are "|"; from a file of nonsense is taken what parses.
 class DictionarySide {
   public:
     explicit DictionarySide(const SideRules& rules) : rules(rules) {}
@@ -43,8 +43,9 @@ class DictionarySide {
     Text LoadUserPairs(const std::filesystem::path& path);
     /// The four above from their remembered paths.
     std::vector<Text> Reload();
-    SaveResult SaveUserPairs();
     SaveResult SaveUser();
+    SaveResult SaveUserPairs();
+    /// Forgets entries and files. Totals of pairs stay until the next load.
     void Clear();
 
     void AddUser(TextView text, int count);
@@ -52,6 +53,7 @@ class DictionarySide {
     bool SetUserFrequency(TextView text, int value);
     void RemoveRarest();
 
+    [[nodiscard]] Vocabulary::Found Find(TextView text) const { return entries.Find(StoredForm(text)); }
     /// `text` in the form in which this side stores it.
     [[nodiscard]] Text StoredForm(TextView text) const;
     [[nodiscard]] const Vocabulary& Entries() const { return entries; }
@@ -60,10 +62,11 @@ class DictionarySide {
     [[nodiscard]] bool UserPairsChanged() const { return userPairsChanged; }
 
   private:
+    [[nodiscard]] Text FormOnFile(EntryId entry) const;
+    [[nodiscard]] EntryId FindToken(TextView token) const;
     template <typename Visit>
     void ForEachKnownPair(TextView bytes, Visit visit) const;
-    [[nodiscard]] Vocabulary::Found Find(TextView text) const { return entries.Find(StoredForm(text)); }
-    void SetUserFrequency(EntryId entry, int value);
+    void ChangeUserFrequency(EntryId entry, int value);
 
     const SideRules& rules;
     Vocabulary entries;

@@ -4,7 +4,6 @@
 
 #include <cstdint>
 #include <limits>
-#include <memory>
 #include <unordered_map>
 #include <vector>
 
@@ -35,11 +34,13 @@ std::size_t SearchPosition(std::size_t count, TextView text, TextAt textAt) {
     return text <= textAt(low) ? low : low + 1;
 }
 
-/// The words or sentences of one general file, in the order of the file, which should be ascending. Filled
-/// once; afterwards nothing changes it, so that several profiles can share it. The number of an entry is its
-/// position.
+/// The words or sentences of one general file, in the order of the file, which should be ascending; the
+/// number of an entry is its position. Filled once; afterwards nothing changes it, so that profiles can share
+/// it.
 class GeneralEntries {
   public:
+    GeneralEntries() { Finish(); }
+
     void Add(TextView text, int frequency, TextView className = {});
     /// To be called once all entries are in.
     void Finish();
@@ -48,23 +49,27 @@ class GeneralEntries {
     [[nodiscard]] TextView TextOf(EntryId entry) const { return texts.Get(entry); }
     [[nodiscard]] int Frequency(EntryId entry) const { return frequencies[entry]; }
     [[nodiscard]] ClassId ClassOf(EntryId entry) const { return classes[entry]; }
-    /// The names of all classes, by number.
+    /// The names of all classes, by number; the first is empty.
     [[nodiscard]] const std::vector<Text>& ClassNames() const { return classNames; }
+    /// 0 for a name that no entry has.
+    [[nodiscard]] ClassId FindClass(const Text& name) const;
     /// True if the entries are strictly ascending, so that order of numbers is order of texts.
     [[nodiscard]] bool Ascending() const { return ascending; }
-    /// The entry of that text, or kNoEntry; only where the entries ascend.
+    /// The entry of that text, or kNoEntry; of equal texts the first.
     [[nodiscard]] EntryId Find(TextView text) const;
 
   private:
     ClassId Intern(TextView className);
+    [[nodiscard]] std::size_t FirstSlot(TextView text) const;
+    [[nodiscard]] std::size_t NextSlot(std::size_t slot) const { return (slot + 1) & (slots.size() - 1); }
 
     TextPool texts;
     std::vector<int> frequencies;
     std::vector<ClassId> classes;
     std::vector<Text> classNames{Text()};
-    std::unordered_map<Text, ClassId> classIds{{Text(), 0}};
+    std::unordered_map<Text, ClassId> classIds;
     bool ascending = true;
-    /// Open addressing over the hash of the texts, twice as many slots as entries at least.
+    /// Open addressing by the hash of the text, at most half full.
     std::vector<EntryId> slots;
 };
 

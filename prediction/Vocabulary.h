@@ -3,11 +3,21 @@
 #include "prediction/GeneralEntries.h"
 #include "prediction/GeneralPairs.h"
 
+#include <algorithm>
 #include <memory>
 #include <unordered_map>
 #include <vector>
 
 namespace ondrilo {
+
+/// Counters have 32 bits, and files may hold any number: sums wrap instead of being undefined.
+inline int WrappingSum(int left, int right) {
+    return static_cast<int>(static_cast<unsigned>(left) + static_cast<unsigned>(right));
+}
+
+inline int WrappingDifference(int left, int right) {
+    return static_cast<int>(static_cast<unsigned>(left) - static_cast<unsigned>(right));
+}
 
 /// A successor with its general and its user counter.
 struct Successor {
@@ -15,6 +25,9 @@ struct Successor {
     int frequency = 0;
     int userFrequency = 0;
 };
+
+/// For ForEachSuccessor.
+inline constexpr std::size_t kAllSuccessors = static_cast<std::size_t>(-1);
 
 /// The words, or the sentences, of one profile as one ascending whole: the general entries, which may be
 /// shared with other profiles, and over them the profile's own counters, entries and pairs. Knows no files
@@ -31,7 +44,7 @@ class Vocabulary {
     /// Begins anew over these general entries, without pairs and without anything of the user's.
     void Reset(std::shared_ptr<const GeneralEntries> entries);
     /// Appends each pair to the tail of its first entry's successors.
-    void AppendGeneralPairs(std::span<const GeneralPair> pairs);
+    void AppendGeneralPairs(std::span<const GeneralPair> appended);
 
     /// Live entries, those with both counters 0 included.
     [[nodiscard]] std::size_t Count() const { return general->Count() + added.size(); }
@@ -47,7 +60,9 @@ class Vocabulary {
     struct Run {
         std::size_t first = 0;
         std::size_t last = 0;
+        [[nodiscard]] std::size_t Size() const { return last - first; }
     };
+    [[nodiscard]] Run All() const { return {0, Count()}; }
     /// The entries that begin with `prefix`, but for one that equals it; an empty prefix gives none.
     [[nodiscard]] Run WithPrefix(TextView prefix) const;
     /// Appends the entries of a run in order.
@@ -63,8 +78,10 @@ class Vocabulary {
     [[nodiscard]] ClassId ClassOf(EntryId entry) const {
         return entry < general->Count() ? general->ClassOf(entry) : 0;
     }
-    [[nodiscard]] const Text& ClassName(ClassId id) const { return general->ClassNames()[id]; }
+    /// The names of all classes, by number.
     [[nodiscard]] const std::vector<Text>& ClassNames() const { return general->ClassNames(); }
+    /// 0 for a name that no entry has.
+    [[nodiscard]] ClassId FindClass(const Text& name) const { return general->FindClass(name); }
 
     /// Inserts an entry that Find did not find, at the position that it told.
     void Insert(std::size_t position, TextView text, int userFrequency);
@@ -72,22 +89,26 @@ class Vocabulary {
     /// Adds to the user counter of a successor, which is put in its place if it is new.
     void AddUserSuccessor(EntryId first, EntryId second, int count);
 
-    /// All successors of an entry in ascending order (in the order of the file, where that does not ascend):
-    /// calls visit(Successor), at most kMaximumSuccessors times.
+    /// Calls visit(Successor) for the successors of an entry, at most `most` times, in ascending order (in
+    /// the order of the general file, where that does not ascend).
     template <typename Visit>
-    void ForEachSuccessor(EntryId first, Visit visit) const {
+    void ForEachSuccessor(EntryId first, std::size_t most, Visit visit) const {
         if (const SuccessorList* own = OwnList(first)) {
-            const std::size_t count = std::min(own->successors.size(), kMaximumSuccessors);
-            for (std::size_t i = 0; i < count; ++i)
+            for (std::size_t i = 0; i < std::min(own->successors.size(), most); ++i)
                 visit(own->successors[i]);
             return;
         }
         const auto shared = pairs->Of(first);
-        for (const GeneralSuccessor& successor : shared.first(std::min(shared.size(), kMaximumSuccessors)))
+        for (const GeneralSuccessor& successor : shared.first(std::min(shared.size(), most)))
             visit(Successor{successor.entry, successor.frequency, 0});
     }
     /// Number of successors that came from the general file.
     [[nodiscard]] int GeneralSuccessorCount(EntryId first) const;
+
+    /// True if the entries are strictly ascending, as they are unless the general file is not.
+    [[nodiscard]] bool Ascending() const { return general->Ascending(); }
+    /// Order of texts, without looking at them where the numbers tell.
+    [[nodiscard]] bool Precedes(EntryId left, EntryId right) const;
 
   private:
     /// The successors of an entry to which the user added something; holds the general ones too.
@@ -96,20 +117,22 @@ class Vocabulary {
         std::size_t generalCount = 0;
         bool ascending = true;
     };
-    /// An entry that only the user has, before the general entry of that number.
+    /// An entry that only the user has; it stands before the general entry of that number.
     struct AddedEntry {
         EntryId before = 0;
         EntryId entry = 0;
     };
 
+    /// How many of the added entries stand before a position.
+    [[nodiscard]] std::size_t AddedBefore(std::size_t position) const;
+    [[nodiscard]] std::size_t PositionOf(EntryId generalEntry) const;
     [[nodiscard]] const SuccessorList* OwnList(EntryId first) const;
     SuccessorList& MakeOwnList(EntryId first);
-    [[nodiscard]] std::size_t PositionOf(EntryId generalEntry) const;
-    [[nodiscard]] bool Precedes(const Successor& successor, TextView text) const;
     [[nodiscard]] bool Untouched() const { return added.empty() && ownLists.empty() && pairs->Empty(); }
 
     std::shared_ptr<const GeneralEntries> general;
     std::shared_ptr<const GeneralPairs> pairs;
+    /// In their order; a position in the whole follows from `before` and the index here.
     std::vector<AddedEntry> added;
     TextPool addedTexts;
     /// By entry.

@@ -31,7 +31,18 @@ Text CollapseWhiteSpace(TextView text) {
 }
 
 Text NormalizeSentence(TextView text) {
-    return MakeLower(CollapseWhiteSpace(text));
+    Text normal;
+    NormalizeSentence(text, normal);
+    return normal;
+}
+
+void NormalizeSentence(TextView text, Text& normal) {
+    normal.clear();
+    for (const char c : TrimLeft(text))
+        if (!IsWhiteSpace(c))
+            normal += MakeLower(c);
+        else if (normal.back() != ' ')
+            normal += ' ';
 }
 
 Text GetRemainder(TextView complete, TextView typed) {

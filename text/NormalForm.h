@@ -8,6 +8,8 @@ namespace ondrilo {
 [[nodiscard]] Text CollapseWhiteSpace(TextView text);
 /// CollapseWhiteSpace, then lower case: the form in which sentences are stored.
 [[nodiscard]] Text NormalizeSentence(TextView text);
+/// The same into storage that the caller keeps, for where nothing may be allocated.
+void NormalizeSentence(TextView text, Text& normal);
 /// What `complete` adds to `typed`: both folded, the common prefix taken off; the result is lower case.
 [[nodiscard]] Text GetRemainder(TextView complete, TextView typed);
 /// `text` without any "[" and "]".
