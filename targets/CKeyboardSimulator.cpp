@@ -28,9 +28,10 @@ bool IsPunctuation(char c) {
 } // namespace
 
 int CKeyboardSimulator::CountChar(bool& capsLock, char c, char next, std::vector<Text>& keys) {
-    if (const auto accented = kAccented.find(c); accented != TextView::npos)
-        return CountChar(capsLock, kAccents[accented], next, keys) +
-               CountChar(capsLock, kBases[accented], next, keys);
+    if (const auto accented = kAccented.find(c); accented != TextView::npos) {
+        const int accent = CountChar(capsLock, kAccents[accented], next, keys);
+        return accent + CountChar(capsLock, kBases[accented], next, keys);
+    }
 
     const auto before = keys.size();
     const bool capital = IsCapital(c);
