@@ -1,0 +1,86 @@
+#include "keyboards/KeyOutputs.h"
+
+#include "keyboards/CCommands.h"
+#include "keyboards/KeySymbol.h"
+#include "keyboards/Pictograms.h"
+
+#include <gmock/gmock.h>
+
+namespace ondrilo {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(KeyOutputs, APressTellsTheKindsApartInItsOrder) {
+    EXPECT_EQ(KindOfOutput("Numeros.TEC"), OutputKind::KeyboardLink);
+    EXPECT_EQ(KindOfOutput("{a}.tec"), OutputKind::KeyboardLink);
+    EXPECT_EQ(KindOfOutput("c:\\Meus Programas\\x.COM"), OutputKind::Program);
+    EXPECT_EQ(KindOfOutput(" {Ctrl+c} "), OutputKind::Sequence);
+    EXPECT_EQ(KindOfOutput("[Apagar-Palavra]"), OutputKind::Command);
+    EXPECT_EQ(KindOfOutput("CAT_IMG_Casa\\porta.bmp"), OutputKind::Pictogram);
+    for (const TextView text : {"Enter", "{", "[", "a{b}", "x.bmp.", ""})
+        EXPECT_EQ(KindOfOutput(text), OutputKind::Text) << text;
+}
+
+TEST(KeyOutputs, OnlyLowerCaseLinksBearTheMark) {
+    EXPECT_TRUE(HasLinkMark("a.tec"));
+    EXPECT_FALSE(HasLinkMark("a.TEC"));
+}
+
+TEST(KeyOutputs, ACommandIsItsFirstWordAndItsSecondTheArgument) {
+    EXPECT_EQ(ParseCommand("[Alterar-Perfil-Utilizador  ana x]"),
+              (CommandCall{"Alterar-Perfil-Utilizador", "ana"}));
+    EXPECT_EQ(ParseCommand("[]"), (CommandCall{"", ""}));
+}
+
+TEST(KeyOutputs, LabelsWithManyWordsOrASentenceAreWrapped) {
+    EXPECT_TRUE(IsWrappedLabel("um dois três"_w));
+    EXPECT_TRUE(IsWrappedLabel("Sim."));
+    EXPECT_FALSE(IsWrappedLabel("bom dia"));
+    EXPECT_FALSE(IsWrappedLabel("...")) << "a mark without a word";
+    EXPECT_FALSE(IsWrappedLabel(""));
+}
+
+TEST(KeyOutputs, EveryCommandWithASymbolExists) {
+    EXPECT_EQ(std::size(kSymbolOutputs), 18U);
+    for (const auto& row : kSymbolOutputs) {
+        if (IsCommand(row.output)) {
+            EXPECT_NE(CCommands::Find(ParseCommand(row.output).name), nullptr) << row.output;
+        }
+    }
+}
+
+TEST(Commands, OnlyTheChangeOfProfileAsksForAnArgumentAndOffersTheProfilesOfNow) {
+    CCommands commands;
+    std::vector<Text> profiles{"generico"};
+    EXPECT_EQ(CCommands::getNames().size(), 12U);
+    EXPECT_EQ(CCommands::getArgumentCount("Alterar-Perfil-Utilizador"), 1);
+    EXPECT_EQ(CCommands::getArgumentCount("Apagar-Palavra"), 0);
+
+    EXPECT_THAT(commands.getArgumentChoices("Alterar-Perfil-Utilizador", 0), IsEmpty());
+    commands.SetProfileNames([&profiles] { return profiles; });
+    profiles.emplace_back("ana");
+    EXPECT_THAT(commands.getArgumentChoices("Alterar-Perfil-Utilizador", 0), ElementsAre("generico", "ana"));
+    EXPECT_THAT(commands.getArgumentChoices("Alterar-Perfil-Utilizador", 1), IsEmpty());
+    EXPECT_THAT(commands.getArgumentChoices("Apagar-Palavra", 0), IsEmpty());
+}
+
+TEST(Pictograms, LowerPicturesGrowByWholeFactorsOnly) {
+    const auto joined = JoinPictures({{30, 40}, {50, 100}, {10, 60}});
+    EXPECT_EQ(joined.size, (Size{60 + 50 + 10, 100}));
+    EXPECT_EQ(joined.places[1], (Rectangle{60, 0, 50, 100}));
+    EXPECT_FALSE(JoinPictures({}).IsLoaded());
+}
+
+TEST(Pictograms, ALabelShowsFiftyAtMost) {
+    Text label;
+    for (int i = 0; i < 60; ++i)
+        label += "a.bmp:";
+    EXPECT_EQ(PictogramsOf(label).size(), 50U);
+    EXPECT_EQ(CountPictograms(label), 60);
+    EXPECT_FALSE(HasPictograms("bmp:a.bmpx"));
+}
+
+} // namespace
+} // namespace ondrilo
