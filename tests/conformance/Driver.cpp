@@ -5,7 +5,9 @@
 #include "tests/conformance/OptionsArea.h"
 #include "tests/conformance/ProfileArea.h"
 #include "tests/conformance/QueryFile.h"
+#include "tests/conformance/SelectionArea.h"
 #include "tests/conformance/TextArea.h"
+#include "tests/conformance/VocabularyArea.h"
 #include "tests/support/TemporaryFolder.h"
 #include "text/LineReader.h"
 
@@ -21,9 +23,16 @@ constexpr int kSkipped = 77;
 
 const std::map<std::string, AreaMaker>& Areas() {
     static const std::map<std::string, AreaMaker> areas{
-        {"keyboard", MakerOf<KeyboardArea>()}, {"keys", MakerOf<KeysArea>()},
-        {"layout", MakerOf<LayoutArea>()},     {"options", MakerOf<OptionsArea>()},
-        {"profile", MakerOf<ProfileArea>()},   {"text", MakerOf<TextArea>()},
+        {"dictionary", MakerOf<VocabularyArea>()},
+        {"keyboard", MakerOf<KeyboardArea>()},
+        {"keys", MakerOf<KeysArea>()},
+        {"layout", MakerOf<LayoutArea>()},
+        {"learning", MakerOf<VocabularyArea>()},
+        {"options", MakerOf<OptionsArea>()},
+        {"prediction", MakerOf<VocabularyArea>()},
+        {"profile", MakerOf<ProfileArea>()},
+        {"selection", MakerOf<SelectionArea>()},
+        {"text", MakerOf<TextArea>()},
     };
     return areas;
 }

@@ -1,7 +1,6 @@
 #include "tests/conformance/KeysArea.h"
 
 #include "targets/CKeyboardSimulator.h"
-#include "targets/PortugueseLayout.h"
 #include "text/Counting.h"
 
 namespace ondrilo::conformance {
@@ -20,10 +19,6 @@ char FirstOf(const Text& text) {
 }
 
 } // namespace
-
-std::optional<LayoutKey> RecordedKeys::KeyOf(char c) const {
-    return PortugueseKeyOf(c);
-}
 
 KeysArea::KeysArea(const std::filesystem::path&) {
     keyboard.Initialize();
@@ -80,9 +75,10 @@ Values KeysArea::EventsOf(const Text& sequence) {
     keys.events.clear();
     keyboard.PlaySequence(sequence);
     Values values;
-    for (const auto& event : keys.events) {
-        values.emplace_back(event.down ? "down" : "up");
-        values.push_back(keyboard.keySet.GetName(event.code).value_or(Number(event.code)));
+    for (const Text& event : keys.events) {
+        const Tokens parts = Split(event, " ");
+        values.push_back(parts.at(0));
+        values.push_back(keyboard.keySet.GetName(ToInteger(parts.at(1))).value_or(parts.at(1)));
     }
     return values;
 }

@@ -1,0 +1,219 @@
+#include "tests/conformance/VocabularyArea.h"
+
+namespace ondrilo::conformance {
+namespace {
+
+void Append(Values& values, const std::vector<Text>& more) {
+    values.insert(values.end(), more.begin(), more.end());
+}
+
+void AppendTotals(Values& values, int count, const VocabularyTotals& totals) {
+    for (const int number : {count, totals.general, totals.generalPairs, totals.user, totals.userPairs})
+        values.push_back(Number(number));
+}
+
+Values PositionOf(const CDictionary::Position& found) {
+    return {Flag(static_cast<bool>(found.found)), Number(found.position)};
+}
+
+Values CountersOf(const DictionaryEntry& entry) {
+    return {Number(entry.Frequency()), Number(entry.UserFrequency())};
+}
+
+Values MaximumOf(const DictionaryEntry& entry) {
+    if (!entry)
+        return {};
+    return {Number(entry.MaxNextFrequency()), Number(entry.MaxUserNextFrequency())};
+}
+
+Values TextsOf(const std::vector<DictionaryEntry>& entries, std::size_t count) {
+    Values texts;
+    for (std::size_t i = 0; i < count; ++i)
+        texts.emplace_back(entries.at(i).Characters());
+    return texts;
+}
+
+Values SuccessorsOf(const std::vector<DictionaryNextEntry>& successors) {
+    Values values;
+    for (const auto& next : successors)
+        Append(values, {Text(next.entry.Characters()), Number(next.frequency), Number(next.userFrequency)});
+    return values;
+}
+
+void AppendIfUsed(Values& values, const DictionaryEntry& entry) {
+    if (entry.UserFrequency() != 0)
+        Append(values, {Text(entry.Characters()), Number(entry.UserFrequency())});
+}
+
+int CountOf(const Arguments& arguments, std::size_t which) {
+    return ToInteger(arguments.at(which));
+}
+
+} // namespace
+
+VocabularyArea::VocabularyArea(const std::filesystem::path& folder) : folder(folder) {
+    AddFiles();
+    AddSearches();
+    AddSuccessors();
+    AddClasses();
+    AddChanges();
+    AddAbbreviations();
+    AddPredictions();
+    AddFilters();
+}
+
+void VocabularyArea::AddFiles() {
+    OnFile(folder.Path());
+    On("load", [this](const Arguments& a) {
+        return Dictionary().LoadProfileDictionaries(folder, a.at(0), a.at(1) != "0");
+    });
+    On("reload", [this](const Arguments&) {
+        Values messages = Dictionary().ReloadWords();
+        Append(messages, Dictionary().ReloadSentences());
+        return messages;
+    });
+    On("save", [this](const Arguments&) { return Problem(Dictionary().SaveUserFiles()); });
+    On("totals", [this](const Arguments&) { return Totals(); });
+}
+
+Values VocabularyArea::Totals() {
+    Values values;
+    const CDictionary& dictionary = Dictionary();
+    AppendTotals(values, dictionary.WordCount(), dictionary.WordTotals());
+    AppendTotals(values, dictionary.SentenceCount(), dictionary.SentenceTotals());
+    for (const int number : {dictionary.wordClasses.Count(), dictionary.wordClasses.Total(),
+                             dictionary.wordClassPairs.Count(), dictionary.wordClassPairs.Total()})
+        values.push_back(Number(number));
+    return values;
+}
+
+void VocabularyArea::AddSearches() {
+    On("find_word", [this](const Arguments& a) { return PositionOf(Dictionary().FindWord(a.at(0))); });
+    On("find_sentence",
+       [this](const Arguments& a) { return PositionOf(Dictionary().FindSentence(a.at(0))); });
+    On("word", [this](const Arguments& a) {
+        const CDictionaryWord word = Dictionary().GetWord(a.at(0));
+        if (!word)
+            return Values{};
+        Values values = CountersOf(word);
+        Append(values, {word.WordClass(), Number(word.NextCount())});
+        return values;
+    });
+    On("sentence", [this](const Arguments& a) {
+        const CDictionarySentence sentence = Dictionary().GetSentence(a.at(0));
+        if (!sentence)
+            return Values{};
+        Values values = CountersOf(sentence);
+        values.push_back(Number(sentence.NextCount()));
+        return values;
+    });
+    On("words_with_prefix", [this](const Arguments& a) {
+        std::vector<CDictionaryWord> found(static_cast<std::size_t>(CountOf(a, 0)));
+        return TextsOf(found, Dictionary().WordsWithPrefix(a.at(1), found));
+    });
+    On("sentences_with_prefix", [this](const Arguments& a) {
+        std::vector<CDictionarySentence> found(static_cast<std::size_t>(CountOf(a, 0)));
+        return TextsOf(found, Dictionary().SentencesWithPrefix(a.at(1), found));
+    });
+}
+
+void VocabularyArea::AddSuccessors() {
+    On("max_next_word", [this](const Arguments& a) { return MaximumOf(Dictionary().GetWord(a.at(0))); });
+    On("max_next_sentence",
+       [this](const Arguments& a) { return MaximumOf(Dictionary().GetSentence(a.at(0))); });
+    On("next_words", [this](const Arguments& a) {
+        CDictionaryNextWordSet successors;
+        Dictionary().NextWordSet(a.at(0), successors);
+        return SuccessorsOf(successors);
+    });
+    On("next_sentences", [this](const Arguments& a) {
+        CDictionaryNextSentenceSet successors;
+        Dictionary().NextSentenceSet(a.at(0), successors);
+        return SuccessorsOf(successors);
+    });
+}
+
+void VocabularyArea::AddClasses() {
+    On("class_frequency",
+       [this](const Arguments& a) { return Values{Number(Dictionary().wordClasses.Frequency(a.at(0)))}; });
+    On("class_pair_frequency", [this](const Arguments& a) {
+        return Values{Number(Dictionary().wordClassPairs.Frequency(a.at(0), a.at(1)))};
+    });
+}
+
+void VocabularyArea::AddChanges() {
+    On("add_word", [this](const Arguments& a) {
+        Dictionary().AddUserWord(a.at(0), CountOf(a, 1));
+        return Values{};
+    });
+    On("add_word_pair", [this](const Arguments& a) {
+        Dictionary().AddUserWordPair(a.at(0), a.at(1), CountOf(a, 2));
+        return Values{};
+    });
+    On("add_sentence", [this](const Arguments& a) {
+        Dictionary().AddUserSentence(a.at(0), CountOf(a, 1));
+        return Values{};
+    });
+    On("add_sentence_pair", [this](const Arguments& a) {
+        Dictionary().AddUserSentencePair(a.at(0), a.at(1), CountOf(a, 2));
+        return Values{};
+    });
+    On("set_word", [this](const Arguments& a) {
+        return Values{Flag(Dictionary().SetUserWordFrequency(a.at(0), CountOf(a, 1)))};
+    });
+    On("set_sentence", [this](const Arguments& a) {
+        return Values{Flag(Dictionary().SetUserSentenceFrequency(a.at(0), CountOf(a, 1)))};
+    });
+    On("remove_rarest_words", [this](const Arguments&) {
+        Dictionary().RemoveRarestUserWords();
+        return Values{};
+    });
+    On("user_words", [this](const Arguments&) {
+        Values values;
+        for (int position = Dictionary().FirstWord(); position != -1;)
+            AppendIfUsed(values, Dictionary().NextWord(position));
+        return values;
+    });
+    On("user_sentences", [this](const Arguments&) {
+        Values values;
+        for (int position = Dictionary().FirstSentence(); position != -1;)
+            AppendIfUsed(values, Dictionary().NextSentence(position));
+        return values;
+    });
+    On("learn_file", [this](const Arguments& a) {
+        const auto path = folder.Path(a.at(0));
+        Dictionary().LearnWordsFromFile(path);
+        Dictionary().LearnWordPairsFromFile(path);
+        Dictionary().LearnSentencesFromFile(path);
+        Dictionary().LearnSentencePairsFromFile(path);
+        return Values{};
+    });
+}
+
+void VocabularyArea::AddAbbreviations() {
+    On("abbreviation",
+       [this](const Arguments& a) { return Values{Dictionary().abbreviations.Find(a.at(0)).value_or("")}; });
+    On("abbreviation_set", [this](const Arguments& a) {
+        Dictionary().abbreviations.Set(a.at(0), a.at(1));
+        return Values{};
+    });
+    On("abbreviation_remove", [this](const Arguments& a) {
+        Dictionary().abbreviations.Remove(a.at(0));
+        return Values{};
+    });
+    On("abbreviation_save", [this](const Arguments&) { return Problem(Dictionary().abbreviations.Save()); });
+    On("abbreviation_reload", [this](const Arguments&) {
+        Dictionary().abbreviations.Reload();
+        return Values{};
+    });
+    On("abbreviations_sorted", [this](const Arguments&) {
+        auto entries = Dictionary().abbreviations.Entries();
+        std::sort(entries.begin(), entries.end());
+        Values values;
+        for (const auto& [abbreviation, expansion] : entries)
+            Append(values, {abbreviation, expansion});
+        return values;
+    });
+}
+
+} // namespace ondrilo::conformance
