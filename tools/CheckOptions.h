@@ -1,0 +1,10 @@
+#pragma once
+
+#include "tools/CheckReport.h"
+
+namespace ondrilo {
+
+/// Profiles (".cfg"), the options of the installation and the list of profiles.
+void CheckOptions(const DataFolder& folder, const std::vector<Text>& profiles, CheckReport& report);
+
+} // namespace ondrilo
