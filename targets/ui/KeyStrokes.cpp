@@ -52,7 +52,7 @@ std::vector<int> VirtualKeysOf(const QKeyEvent& event, const KeyOutput& layout) 
 std::int32_t KeyDataOf(const QKeyEvent& event) {
     const bool release = event.type() == QEvent::KeyRelease;
     // The X server counts keys from 8.
-    std::uint32_t data = 1 | (event.nativeScanCode() - 8 & 0xFF) << 16;
+    std::uint32_t data = 1 | ((event.nativeScanCode() - 8) & 0xFF) << 16;
     if (release || event.isAutoRepeat())
         data |= 1U << 30;
     if (release)

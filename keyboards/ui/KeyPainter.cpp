@@ -1,0 +1,149 @@
+#include "keyboards/ui/KeyPainter.h"
+
+#include "keyboards/ui/DrawSymbol.h"
+#include "keyboards/ui/Fill.h"
+
+#include <QFontMetricsF>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace ondrilo {
+namespace {
+
+void PaintFill(QPainter& painter, const QRectF& key, const KeyFace& face) {
+    if (face.gradientEnd)
+        FillGradient(painter, key, face.fill, *face.gradientEnd, face.gradientAngle);
+    else
+        painter.fillRect(key, face.fill);
+}
+
+void PaintLine(QPainter& painter, const QRectF& area, const KeyFace& face, Qt::Alignment alignment) {
+    painter.setFont(face.font);
+    painter.drawText(area, static_cast<int>(alignment) | Qt::AlignVCenter | Qt::TextSingleLine, face.text);
+}
+
+void PaintWrapped(QPainter& painter, const QRectF& key, const KeyFace& face) {
+    painter.setFont(face.font);
+    const double margin = face.keyMargin;
+    painter.drawText(key.adjusted(margin, margin, 0, 0), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
+                     face.text);
+}
+
+/// The largest font, going down by half a point, in which the caption fits the strip.
+QFont CaptionFont(const KeyFace& face, QSizeF strip) {
+    auto font = face.font;
+    for (double points = face.captionPoints; points >= 0.2; points -= 0.5) {
+        font.setPointSizeF(points);
+        const QFontMetricsF measures(font);
+        if (measures.horizontalAdvance(face.text) + 4 <= strip.width() && measures.height() <= strip.height())
+            break;
+    }
+    return font;
+}
+
+/// Draws the caption and returns the area that it leaves for the picture.
+QRectF PaintCaption(QPainter& painter, const QRectF& key, const KeyFace& face) {
+    if (face.text.isEmpty())
+        return key;
+    auto font = face.font;
+    font.setPointSizeF(std::max(face.captionPoints, 0.2));
+    const double height = QFontMetricsF(font).height();
+    const QRectF strip(key.left() + 4, key.top() + 4, key.width() - 8, height);
+    painter.setFont(CaptionFont(face, strip.size()));
+    painter.drawText(strip, Qt::AlignCenter | Qt::TextSingleLine, face.text);
+    return key.adjusted(0, height + 8, 0, 0);
+}
+
+/// Scales by hand to the very pixels of the device: a painter's own scaling skips pixels of large pictures.
+void PaintScaled(QPainter& painter, const QRectF& target, const QImage& picture) {
+    const auto device = painter.deviceTransform().mapRect(target).toAlignedRect();
+    if (device.size() == picture.size())
+        painter.drawImage(target, picture);
+    else
+        painter.drawImage(target,
+                          picture.scaled(device.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+}
+
+void PaintPicture(QPainter& painter, const QRectF& key, const KeyFace& face) {
+    if (face.picture.isNull())
+        return;
+    const auto area = PaintCaption(painter, key, face);
+    const double scale = std::min(area.width() / face.picture.width(), area.height() / face.picture.height());
+    const QSizeF size(std::floor(face.picture.width() * scale) - 2 * face.imageMargin,
+                      std::floor(face.picture.height() * scale) - 2 * face.imageMargin);
+    if (size.width() < 1 || size.height() < 1)
+        return;
+    PaintScaled(painter, {area.center() - QPointF(size.width(), size.height()) / 2, size}, face.picture);
+}
+
+void PaintContent(QPainter& painter, const QRectF& key, const KeyFace& face) {
+    painter.setPen(face.ink);
+    switch (face.content) {
+    case KeyFace::Content::None:
+        break;
+    case KeyFace::Content::Symbol:
+        DrawSymbol(painter, face.symbol, key, face.mark);
+        break;
+    case KeyFace::Content::CentredLine:
+        PaintLine(painter, key, face, Qt::AlignHCenter);
+        break;
+    case KeyFace::Content::LeftLine:
+        PaintLine(painter, key.adjusted(face.keyMargin, 0, 0, 0), face, Qt::AlignLeft);
+        break;
+    case KeyFace::Content::Wrapped:
+        PaintWrapped(painter, key, face);
+        break;
+    case KeyFace::Content::Picture:
+        PaintPicture(painter, key, face);
+        break;
+    }
+}
+
+/// A triangle in the lower left corner, pointing right: the key leads to another keyboard.
+void PaintLinkMark(QPainter& painter, const QRectF& key, const QColor& color) {
+    const auto bottom = key.bottomLeft();
+    QPainterPath triangle;
+    triangle.addPolygon(
+        QPolygonF({bottom + QPointF(6, -16), bottom + QPointF(6, -6), bottom + QPointF(16, -11)}));
+    triangle.closeSubpath();
+    painter.fillPath(triangle, color);
+}
+
+/// A bar along the right edge: these are the last predictions.
+void PaintPageMark(QPainter& painter, const QRectF& key, const KeyFace& face) {
+    const QRectF bar(key.right() - 4 - face.pageMarkWidth, key.top() + 4, face.pageMarkWidth,
+                     key.height() - 8);
+    painter.fillRect(bar, face.mark);
+}
+
+} // namespace
+
+void PaintKey(QPainter& painter, const QRectF& key, const KeyFace& face) {
+    painter.save();
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                           QPainter::SmoothPixmapTransform);
+    painter.setClipRect(key, Qt::IntersectClip);
+    PaintFill(painter, key, face);
+    PaintContent(painter, key, face);
+    if (face.isLink)
+        PaintLinkMark(painter, key, face.mark);
+    if (face.pageMarkWidth > 0)
+        PaintPageMark(painter, key, face);
+    painter.restore();
+}
+
+void PaintPressDot(QPainter& painter, const QRectF& key, const QColor& color) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    auto translucent = color;
+    translucent.setAlpha(70);
+    painter.setBrush(translucent);
+    painter.setPen(Qt::NoPen);
+    const double radius = std::min(key.width(), key.height()) * 2 / 5;
+    painter.drawEllipse(key.center(), radius, radius);
+    painter.restore();
+}
+
+} // namespace ondrilo
