@@ -2,6 +2,7 @@
 #include "tests/conformance/KeyboardArea.h"
 #include "tests/conformance/KeysArea.h"
 #include "tests/conformance/LayoutArea.h"
+#include "tests/conformance/LearningArea.h"
 #include "tests/conformance/OptionsArea.h"
 #include "tests/conformance/ProfileArea.h"
 #include "tests/conformance/QueryFile.h"
@@ -27,7 +28,7 @@ const std::map<std::string, AreaMaker>& Areas() {
         {"keyboard", MakerOf<KeyboardArea>()},
         {"keys", MakerOf<KeysArea>()},
         {"layout", MakerOf<LayoutArea>()},
-        {"learning", MakerOf<VocabularyArea>()},
+        {"learning", MakerOf<LearningArea>()},
         {"options", MakerOf<OptionsArea>()},
         {"prediction", MakerOf<VocabularyArea>()},
         {"profile", MakerOf<ProfileArea>()},
