@@ -1,0 +1,74 @@
+#include "platform/x11/PersonsKeys.h"
+
+#include <xcb/xinput.h>
+
+#include <functional>
+#include <string_view>
+
+namespace ondrilo {
+namespace {
+
+void ForEachKeyboard(const X11Connection& connection,
+                     const std::function<void(std::uint8_t device, bool typesForPrograms)>& visit) {
+    const auto cookie = xcb_input_xi_query_device(connection.Get(), XCB_INPUT_DEVICE_ALL);
+    const auto reply = Owned(xcb_input_xi_query_device_reply(connection.Get(), cookie, nullptr));
+    if (!reply)
+        return;
+    for (auto device = xcb_input_xi_query_device_infos_iterator(reply.get()); device.rem > 0;
+         xcb_input_xi_device_info_next(&device)) {
+        if (device.data->type != XCB_INPUT_DEVICE_TYPE_SLAVE_KEYBOARD)
+            continue;
+        const std::string_view name(xcb_input_xi_device_info_name(device.data), device.data->name_len);
+        visit(static_cast<std::uint8_t>(device.data->deviceid),
+              name.find("XTEST keyboard") != std::string_view::npos);
+    }
+}
+
+Keycodes DownOn(const X11Connection& connection, std::uint8_t device) {
+    Keycodes down;
+    const auto cookie = xcb_input_query_device_state(connection.Get(), device);
+    const auto reply = Owned(xcb_input_query_device_state_reply(connection.Get(), cookie, nullptr));
+    if (!reply)
+        return down;
+    for (auto state = xcb_input_query_device_state_classes_iterator(reply.get()); state.rem > 0;
+         xcb_input_input_state_next(&state)) {
+        if (state.data->class_id != XCB_INPUT_INPUT_CLASS_KEY)
+            continue;
+        const auto* keys = reinterpret_cast<const xcb_input_key_state_t*>(state.data)->keys;
+        for (std::size_t keycode = 0; keycode < down.size(); ++keycode)
+            if (keys[keycode / 8] >> (keycode % 8) & 1)
+                down.set(keycode);
+    }
+    return down;
+}
+
+} // namespace
+
+PersonsKeys::PersonsKeys(const X11Connection& connection) : connection(connection) {
+    if (!connection.Has(xcb_input_id))
+        return;
+    const auto cookie = xcb_input_xi_query_version(connection.Get(), 2, 0);
+    isAvailable = Owned(xcb_input_xi_query_version_reply(connection.Get(), cookie, nullptr)) != nullptr;
+}
+
+Keycodes PersonsKeys::Down() const {
+    Keycodes down;
+    if (isAvailable)
+        ForEachKeyboard(connection, [&](std::uint8_t device, bool typesForPrograms) {
+            if (!typesForPrograms)
+                down |= DownOn(connection, device);
+        });
+    return down;
+}
+
+std::optional<std::uint8_t> PersonsKeys::TypingDevice() const {
+    std::optional<std::uint8_t> found;
+    if (isAvailable)
+        ForEachKeyboard(connection, [&](std::uint8_t device, bool typesForPrograms) {
+            if (typesForPrograms && !found)
+                found = device;
+        });
+    return found;
+}
+
+} // namespace ondrilo

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/x11/KeyboardMap.h"
+#include "platform/x11/PersonsKeys.h"
+#include "platform/x11/X11Connection.h"
+
+#include <chrono>
+#include <functional>
+#include <vector>
+
+namespace ondrilo {
+
+/// The keycodes to which the layout gives nothing, lent to characters that it lacks: a letter and its
+/// capital, or two signs, on one keycode. They stay lent for the whole run, since programs fetch the
+/// keyboard's map late. What is lent stands in a property of the root window too, by which the next run
+/// recognises what a killed one left behind.
+class SpareKeys {
+  public:
+    explicit SpareKeys(const X11Connection& connection);
+
+    /// Finds the spare keycodes anew, after the start or a change of the keyboard, and lends the Portuguese
+    /// letters and signs that `canWrite` does not know.
+    void Attach(const std::function<bool(char32_t)>& canWrite);
+    /// The stroke for a character; where it is newly lent, waits until programs can have noticed.
+    [[nodiscard]] std::optional<KeyStroke> StrokeOf(char c);
+    /// Takes everything back.
+    void Detach();
+
+  private:
+    struct Pair {
+        Keysym plain = 0;
+        Keysym shifted = 0;
+        bool operator==(const Pair&) const = default;
+    };
+    struct Spare {
+        Keycode keycode = 0;
+        Pair lent;
+        std::chrono::steady_clock::time_point since;
+        std::uint64_t lastUse = 0;
+    };
+    static Pair PairOf(char c);
+    [[nodiscard]] std::vector<Spare> ReadLent() const;
+    [[nodiscard]] Keycodes KeycodesWithModifiers() const;
+    Spare* Find(const Pair& pair);
+    Spare* LeastUsed();
+    void Lend(Spare& spare, const Pair& pair);
+    void WriteRecord() const;
+
+    const X11Connection& connection;
+    std::vector<Spare> spares;
+    xcb_atom_t record;
+    std::uint64_t uses = 0;
+};
+
+} // namespace ondrilo
