@@ -29,7 +29,9 @@ int Check(const Arguments& arguments) {
     CheckDictionaries(folder, profiles, report);
     CheckOptions(folder, profiles, report);
     CheckKeyboards(folder, profiles, report);
-    std::ranges::stable_sort(report, {}, [](const CheckFinding& f) { return std::pair(f.file, f.line); });
+    std::ranges::sort(report);
+    // A profile that is listed twice is found twice.
+    report.erase(std::unique(report.begin(), report.end()), report.end());
     for (const auto& [file, line, reason] : report) {
         std::cout << arguments.ToTerminal(file) << ':';
         if (line > 0)

@@ -15,6 +15,18 @@ Text BytesToCheck(CheckReport& report, const DataFolder& folder, const Text& nam
     return std::move(file.bytes);
 }
 
+/// Accents written for another program: each would be read as two characters.
+bool IsUtf8WithAccents(TextView line) {
+    bool accents = false;
+    while (!line.empty()) {
+        const auto codePoint = TakeUtf8(line);
+        if (codePoint == kReplacement)
+            return false;
+        accents = accents || codePoint >= 0x80;
+    }
+    return accents;
+}
+
 } // namespace
 
 CheckedFile::CheckedFile(CheckReport& report, const DataFolder& folder, TextView name, std::size_t lineLimit)
@@ -29,6 +41,8 @@ std::optional<TextView> CheckedFile::Next() {
         lastTooLong = Line();
         Tell("longer than " + std::to_string(limit) + " bytes: read as several lines");
     }
+    if (line && IsUtf8WithAccents(*line))
+        Tell("is UTF-8, but is read as Windows-1252");
     return line;
 }
 

@@ -18,8 +18,8 @@ struct CheckFinding {
 };
 using CheckReport = std::vector<CheckFinding>;
 
-/// Goes through the lines of one file and tells what is wrong with them. Lines over the reader's limit are
-/// told here, and so is a file that cannot be read to its end.
+/// Goes through the lines of one file and tells what is wrong with them. Lines over the reader's limit or
+/// in UTF-8 are told here, and so is a file that cannot be read to its end.
 class CheckedFile {
   public:
     CheckedFile(CheckReport& report, const DataFolder& folder, TextView name,
