@@ -1,0 +1,30 @@
+"""The frame of a story: runs it on a desktop of its own, with the delivered data as an installer leaves it."""
+
+import shutil
+import sys
+from pathlib import Path
+
+from desktop import Desktop, Failure
+
+
+def play(story):
+    """Calls story(desktop, program) with the words of the command line: PROGRAM DELIVERED."""
+    program, delivered = (Path(word).resolve() for word in sys.argv[1:3])
+    with Desktop() as desktop:
+        desktop.install(delivered)
+        try:
+            story(desktop, program)
+        except Failure as failure:
+            picture = Path('failed-%s.png' % Path(sys.argv[0]).stem).resolve()
+            desktop.picture(picture)
+            sys.exit('%s\nThe screen: %s' % (failure, picture))
+    print('1 passed, 0 failed')
+
+
+def prepare_data(desktop, delivered=None):
+    shutil.copytree(delivered or Path(sys.argv[2]), desktop.data)
+
+
+def expect(condition, what):
+    if not condition:
+        raise Failure(what)

@@ -1,0 +1,61 @@
+#!/usr/bin/python3
+"""A person writes "Olá. Tudo bem" with clicks and keys, and chooses predicted words by click and hot key."""
+
+from desktop import Program, wait_for
+from story import expect, play, prepare_data
+
+
+def set_option(desktop, key, value):
+    path = desktop.data / 'generico.cfg'
+    lines = ['%s %s' % (key, value) if line.split(' ')[0] == key else line
+             for line in path.read_text('cp1252').splitlines()]
+    path.write_text('\n'.join(lines) + '\n', 'cp1252')
+
+
+def story(desktop, program):
+    prepare_data(desktop)
+    # A vocabulary in which each beginning has one continuation only.
+    (desktop.data / 'geral.pal').write_text('bem 4\ntudo 5\n', 'cp1252')
+    (desktop.data / 'geral.par').write_text('tudo bem 3\n', 'cp1252')
+    for name in ('geral.frs', 'geral.paf'):
+        (desktop.data / name).write_text('')
+    set_option(desktop, 'TEMPO_DE_PREDICAO', 200)
+
+    ondrilo = Program(desktop, program)
+    expect(ondrilo.title().startswith('Ondrilo V3.0: generico (QwertySimples) (Logging Desligado)'),
+           'the title is ' + ondrilo.title())
+
+    ondrilo.click('Maiúscula')
+    ondrilo.click('o')
+    ondrilo.click('l')
+    ondrilo.expect_text('Ol')
+    ondrilo.click('Letras com acentos')
+    ondrilo.click('a com acento agudo')
+    ondrilo.click('Ponto final')
+    ondrilo.expect_text('Olá.')
+    ondrilo.click('Letras')
+    desktop.press('space', 'shift+t', 'u')
+    ondrilo.expect_text('Olá. Tu')
+
+    # By click: the key's name is the predicted word itself.
+    ondrilo.click('tudo')
+    ondrilo.expect_text('Olá. Tudo ')
+    # By hot key: "bem" is the only successor of "tudo", so it stands on the first key.
+    wait_for(lambda: 'bem' in ondrilo.keys(), 'the prediction "bem"')
+    desktop.press('F1')
+    ondrilo.expect_text('Olá. Tudo bem ')
+    desktop.press('BackSpace')
+    ondrilo.expect_text('Olá. Tudo bem')
+
+    # Whatever the speed, nothing is lost or reordered.
+    desktop.press('Return')
+    desktop.xdotool('type', '--delay', '1', 'a raposa salta sobre o muro')
+    ondrilo.expect_text('Olá. Tudo bem\na raposa salta sobre o muro')
+
+    expect(ondrilo.quit() == 0, 'the program did not end well')
+    learned = (desktop.data / 'generico.pal').read_text('cp1252').split('\n')
+    expect('tudo 1' in learned and 'olá 1' in learned, 'learned words are not in generico.pal: %r' % learned)
+    expect('tudo bem 1' in (desktop.data / 'generico.par').read_text('cp1252'), 'the pair was not learned')
+
+
+play(story)
