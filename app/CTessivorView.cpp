@@ -1,0 +1,129 @@
+#include "app/CTessivorView.h"
+
+#include "app/Notice.h"
+
+namespace ondrilo {
+namespace {
+
+/// Time that the sources of the context get for their first readings.
+constexpr Milliseconds kFirstReadings{20'000};
+
+} // namespace
+
+CTessivorView::CTessivorView(const Environment& environment, const SessionServices& services)
+    : environment(environment), services(services),
+      userProfiles(environment.dataFolder, environment.boxes, environment.dialogs,
+                   [this](TextView text) { this->environment.frame.SetStatusMessage(text); }),
+      keyboardSimulator(environment.keys), writingClock(environment.clock),
+      events(
+          services.log, userProfiles,
+          [this](int code) { return keyboardSimulator.keySet.GetName(code).value_or(std::to_string(code)); }),
+      specialKeys(userProfiles, keyboardSimulator.keySet, targets),
+      predictionKeys(keyboard, predictions, specialKeys, userProfiles),
+      cycle(userProfiles, targets, predictions, predictionKeys, services),
+      placement(environment, userProfiles, systemOptions, keyboard, targets, services),
+      chrome(environment.frame, userProfiles), caretFollower(environment, userProfiles, keyboard, targets),
+      preview(environment.windows, environment.desktop, targets), learning(userProfiles, targets),
+      speech(userProfiles, targets, learning, services), sender(keyboardSimulator, keyboard, state),
+      keyboards(environment, userProfiles, keyboard, predictionKeys, predictions, placement, sender, speech,
+                events, services),
+      logging(environment, userProfiles, writingClock, state, services),
+      targetController(environment, userProfiles, targets, specialKeys, preview, cycle, keyboardSimulator,
+                       countdowns, events, services),
+      completion(userProfiles, targets, predictionKeys, keyboard, cycle, learning, keyboardSimulator, state,
+                 services),
+      selections(userProfiles, systemOptions, targets, keyboard, predictionKeys, completion, sender, speech,
+                 preview, keyboardSimulator, events, state, services),
+      abbreviations(userProfiles, targets, cycle, speech, preview, keyboardSimulator, events, state,
+                    services),
+      session(environment, userProfiles, keyboards, logging, placement, targetController, preview,
+              predictionKeys, predictions, sender, keyboardSimulator, commands, state, services),
+      clock(environment, userProfiles, systemOptions, targetController, cycle, countdowns, writingClock,
+            placement, caretFollower, services, [this](TextView name) { session.ChangeProfile(name); }),
+      commandController(environment, userProfiles, targets, keyboard, predictionKeys, cycle, speech,
+                        keyboards, logging, placement, keyboardSimulator, events, state, services,
+                        [this](TextView name) { session.ChangeProfile(name); }),
+      keySelection(keyboard, predictionKeys, keyboardSimulator.keySet, specialKeys, keyboards,
+                   commandController, selections, abbreviations),
+      router(userProfiles, targets, keyboard, predictionKeys, specialKeys, keySelection, selections,
+             abbreviations, speech, learning, preview, sender, placement, chrome, environment.sounds,
+             countdowns, writingClock, events, state, services),
+      menuController(environment.frame, environment.boxes, userProfiles, keyboard, session, chrome,
+                     countdowns, events, services) {
+    session.SetClock(clock);
+    environment.frame.SetListener(this);
+}
+
+CTessivorView::~CTessivorView() {
+    environment.frame.SetListener(nullptr);
+}
+
+void CTessivorView::OnInitialUpdate() {
+    const auto notice = ShowNotice(environment.windows, environment.desktop, kStartingNotice);
+    services.userRecord.Open();
+    systemOptions.Load(environment.dataFolder.Path("configsis"));
+    userProfiles.Load();
+    profilesReady = true;
+    services.gps.Start(systemOptions.Get(system_option::PORTA_GPS));
+    services.bluetooth.Start();
+    userProfiles.Open(StartProfile());
+    session.StartSession();
+    // Once in its life the window takes the focus, so that the editor is the first target.
+    if (targets.Internal())
+        environment.frame.Activate();
+}
+
+Text CTessivorView::StartProfile() {
+    if (systemOptions.IsOn(system_option::ADAPTACAO_CONTEXTO)) {
+        environment.clock.Sleep(kFirstReadings);
+        return services.context.GetStartProfile();
+    }
+    const auto& name = systemOptions.Get(system_option::PERFIL_UTILIZADOR_ARRANQUE);
+    return name.empty() ? Text(kGenericProfile) : name;
+}
+
+void CTessivorView::Handle(const MessageEvent& event) {
+    if (session.IsRunning())
+        router.Handle(event);
+}
+
+void CTessivorView::OnActivateView() {
+    if (session.IsRunning())
+        chrome.OnActivate();
+}
+
+void CTessivorView::OnDraw() {
+    if (!profilesReady || userProfiles.ActiveIndex() < 0)
+        return;
+    placement.RefreshTitle();
+    if (keyboard.IsOpen() && !services.cooperation.IsUp())
+        predictionKeys.Show();
+}
+
+void CTessivorView::OnKeyDown(int code, std::int32_t) {
+    if (session.IsRunning())
+        router.OnKeyDown(code);
+}
+
+void CTessivorView::OnKeyUp(int code, std::int32_t) {
+    if (session.IsRunning())
+        router.OnKeyUp(code);
+}
+
+void CTessivorView::OnMenuCommand(int command) {
+    menuController.Execute(command);
+}
+
+void CTessivorView::OnDestroy() {
+    services.userRecord.Close();
+    services.bluetooth.Stop();
+    services.gps.Stop();
+    session.StopSession();
+    profilesReady = false;
+    userProfiles.Release();
+    userProfiles.Close();
+    if (const auto saved = systemOptions.Save(); !saved)
+        environment.frame.SetStatusMessage(saved.problem);
+}
+
+} // namespace ondrilo

@@ -1,0 +1,255 @@
+#include "app/InputRouter.h"
+
+#include "text/NormalForm.h"
+#include "text/Splitter.h"
+
+namespace ondrilo {
+
+InputRouter::InputRouter(const CUserProfileSet& profiles, const Targets& targets,
+                         const COnScreenKeyboard& keyboard, PredictionKeys& keys,
+                         const SpecialKeys& specialKeys, KeySelection& keySelection,
+                         SelectionController& selections, AbbreviationController& abbreviations,
+                         SpeechController& speech, LearningController& learning, PreviewController& preview,
+                         KeySender& sender, WindowPlacement& placement, WindowChrome& chrome,
+                         SoundPlayer& sounds, Countdowns& countdowns, WritingClock& writingClock,
+                         EventWriter& events, SessionState& state, const SessionServices& services)
+    : profiles(profiles), targets(targets), keyboard(keyboard), keys(keys), specialKeys(specialKeys),
+      keySelection(keySelection), selections(selections), abbreviations(abbreviations), speech(speech),
+      learning(learning), preview(preview), sender(sender), placement(placement), chrome(chrome),
+      sounds(sounds), countdowns(countdowns), writingClock(writingClock), events(events), state(state),
+      services(services) {
+}
+
+void InputRouter::Handle(const MessageEvent& event) {
+    const auto key = COnScreenKeyIdentifier::FromPacked(event.first);
+    switch (event.message) {
+    case Message::UM_KEY_DOWN:
+        return KeyDown(event.first);
+    case Message::UM_KEY_UP:
+        return KeyUp(event.first);
+    case Message::UM_LEFT_DOWN:
+        return ButtonDown(0);
+    case Message::UM_RIGHT_DOWN:
+        return ButtonDown(1);
+    case Message::UM_MIDDLE_DOWN:
+        return ButtonDown(2);
+    case Message::UM_LEFT_UP:
+    case Message::UM_RIGHT_UP:
+    case Message::UM_MIDDLE_UP:
+        return countdowns.prediction.Restart();
+    case Message::UM_POINTER_MOVED:
+        return;
+    case Message::UM_CHAR:
+        return Character(static_cast<char>(event.first));
+    case Message::UM_WORD_END:
+        return WordEnd();
+    case Message::UM_SENTENCE_END:
+        return SentenceEnd();
+    case Message::UM_KEY_PRESS:
+        return KeyPress(key, event.second);
+    case Message::UM_SCAN_KEY_SELECTED:
+        return ScannedKey(key);
+    case Message::UM_KEY_HOVER:
+        return Hover(key);
+    case Message::UM_KEY_DOUBLE_CLICK:
+        return;
+    case Message::UM_SCAN_ADVANCE:
+    case Message::UM_SCAN_LINES:
+    case Message::UM_SCAN_GROUPS:
+    case Message::UM_SCAN_KEYS:
+        return ScanCues(event.message);
+    case Message::UM_SCAN_LINE_SELECTED:
+        return events.Action(ActionOrigin::OfSwitch(), "LINE_SELECTION", key);
+    case Message::UM_SCAN_GROUP_SELECTED:
+        return events.Action(ActionOrigin::OfSwitch(), "GROUP_SELECTION", key);
+    case Message::UM_LAYOUT:
+        return placement.LayOut();
+    }
+}
+
+void InputRouter::PersonIsActive() {
+    countdowns.idle.Restart();
+    writingClock.Resume();
+}
+
+void InputRouter::Count(Metric metric) {
+    if (services.log.IsOpen())
+        services.metrics.Count(metric);
+}
+
+void InputRouter::KeyDown(int code) {
+    PersonIsActive();
+    countdowns.prediction.Stop();
+    BringBackMenuAfterControl(code);
+    if (IsOn(option::REGISTA_EVENTOS_CONTROLO))
+        events.RawKey(code);
+    // A switch interface that sends keys of the numeric pad must not take the preview away.
+    const bool isNumericPad = (code >= vk::Num0 && code <= vk::NumDivide) || code == vk::NumLock;
+    if (!isNumericPad)
+        preview.HidePreview();
+    const bool simulated = state.pendingSimulatedKeys >= 1;
+    Count(simulated ? Metric::SystemKey : Metric::KeyPress);
+    if (simulated)
+        --state.pendingSimulatedKeys;
+    Dispatch(code, simulated);
+    state.lastKeyCode = code;
+    events.UpdateContext();
+}
+
+void InputRouter::BringBackMenuAfterControl(int code) {
+    if (state.lastKeyCode == vk::Control && code == vk::Shift)
+        chrome.BringBackMenu();
+}
+
+void InputRouter::Dispatch(int code, bool simulated) {
+    if (SwitchDown(code) || SelectByHotKey(code))
+        return;
+    if (code == specialKeys.expansionKey) {
+        abbreviations.Press(ActionOrigin::Key(code));
+    } else if (code == specialKeys.speakWordKey) {
+        SpeakWordByKey(code);
+    } else if (code == specialKeys.speakSentenceKey) {
+        SpeakSentenceByKey(code);
+    } else {
+        events.TypedKey(code, simulated);
+        countdowns.prediction.Restart();
+    }
+}
+
+bool InputRouter::SelectByHotKey(int code) {
+    const auto index = specialKeys.HotKeyIndex(code);
+    const auto key = index ? keys.text.KeyOfHotKey(*index) : std::nullopt;
+    if (!key)
+        return false;
+    if (keys.lists.words.PositionOf(*key))
+        selections.SelectPredictedWordByHotKey(*key, code);
+    else
+        selections.SelectPredictedSentenceByHotKey(*key, code);
+    return true;
+}
+
+bool InputRouter::SwitchDown(int code) {
+    if (code != specialKeys.switch1Key && code != specialKeys.switch2Key)
+        return false;
+    services.scanning.SwitchDown(code == specialKeys.switch1Key ? 1 : 2);
+    return true;
+}
+
+bool InputRouter::SwitchUp(int code) {
+    if (code != specialKeys.switch1Key && code != specialKeys.switch2Key)
+        return false;
+    services.scanning.SwitchUp(code == specialKeys.switch1Key ? 1 : 2);
+    return true;
+}
+
+void InputRouter::SpeakWordByKey(int code) {
+    const auto spoken = speech.SpeakWordOrImage();
+    if (!spoken.text.empty())
+        events.ActionWithText(ActionOrigin::Key(code),
+                              spoken.isImage ? "SYNTHESIZE_IMAGE_" : "SYNTHESIZE_WORD_", spoken.text);
+}
+
+void InputRouter::SpeakSentenceByKey(int code) {
+    const auto spoken = speech.SpeakCurrentSentence();
+    if (!spoken.empty())
+        events.ActionWithText(ActionOrigin::Key(code), "SYNTHESIZE_SENTENCE_", spoken);
+}
+
+void InputRouter::KeyUp(int code) {
+    if (code == vk::Backspace || code == vk::Delete)
+        Count(Metric::Correction);
+    if (!SwitchUp(code) && code == vk::CapsLock)
+        sender.ShowModifiers();
+    sender.ReleaseShift();
+}
+
+void InputRouter::OnKeyDown(int code) {
+    PersonIsActive();
+    if (IsOn(option::REGISTA_EVENTOS_CONTROLO))
+        events.RawKey(code);
+    SwitchDown(code);
+    BringBackMenuAfterControl(code);
+    state.lastKeyCode = code;
+}
+
+void InputRouter::OnKeyUp(int code) {
+    SwitchUp(code);
+}
+
+void InputRouter::ButtonDown(int button) {
+    if (IsOn(option::REGISTA_EVENTOS_CONTROLO))
+        events.RawButton(button);
+    Count(Metric::Click);
+}
+
+void InputRouter::Character(char c) {
+    if (IsOn(option::OUVIR_LETRAS))
+        speech.SpeakText(TextView(&c, 1));
+    Count(Metric::Character);
+    events.Character(c);
+}
+
+void InputRouter::WordEnd() {
+    learning.LearnWord();
+    countdowns.prediction.Restart();
+    if (IsOn(option::OUVIR_PALAVRAS))
+        speech.SpeakEndedWord();
+    if (!events.IsOpen() || !targets.Current())
+        return;
+    Count(Metric::Word);
+    events.Event("NEW_WORD", "WORD_" + targets.Current()->GetPreviousWord());
+}
+
+void InputRouter::SentenceEnd() {
+    if (IsOn(option::OUVIR_FRASES))
+        speech.SpeakEndedSentence();
+    learning.LearnSentence();
+    if (!events.IsOpen() || !targets.Current())
+        return;
+    const auto sentence = targets.Current()->GetPreviousSentence();
+    if (Split(sentence, kTerminators).empty())
+        return;
+    events.Event("NEW_SENTENCE", "SENTENCE_" + CollapseWhiteSpace(sentence));
+    Count(Metric::Sentence);
+}
+
+void InputRouter::KeyPress(COnScreenKeyIdentifier key, int button) {
+    PersonIsActive();
+    if (IsOn(option::REGISTA_EVENTOS_CONTROLO))
+        events.RawButton(button);
+    Count(Metric::Click);
+    Count(Metric::ScreenKey);
+    preview.HidePreview();
+    if (button == 0)
+        keySelection.Select(key, ActionOrigin::OfMouse());
+    events.UpdateContext();
+}
+
+void InputRouter::ScannedKey(COnScreenKeyIdentifier key) {
+    PersonIsActive();
+    Count(Metric::ScreenKey);
+    keySelection.Select(key, ActionOrigin::OfSwitch());
+    events.UpdateContext();
+}
+
+void InputRouter::Hover(COnScreenKeyIdentifier key) {
+    const auto position = keys.lists.words.PositionOf(key);
+    speech.SpeakText(position ? keys.text.WordAt(*position) : keyboard.Key(key).data.description);
+}
+
+void InputRouter::ScanCues(Message step) {
+    if (step == Message::UM_SCAN_LINES)
+        events.Event("SWITCH1_DOWN", "START_SCANNING_LINES");
+    else if (step == Message::UM_SCAN_GROUPS)
+        events.Event("SWITCH1_DOWN", "START_SCANNING_GROUPS");
+    else if (step == Message::UM_SCAN_KEYS)
+        events.Event("SWITCH1_DOWN", "START_SCANNING_KEYS");
+    else
+        events.Action({ActionOrigin::Kind::ScanTimer, 0}, services.scanning.AdvanceEvent());
+    if (IsOn(option::PISTA_SONORA_BEEP_VARRIMENTO))
+        sounds.Beep();
+    if (IsOn(option::PISTA_SINTETIZADA_VARRIMENTO))
+        speech.SpeakText(services.scanning.LitDescription());
+}
+
+} // namespace ondrilo

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "app/CaretFollower.h"
+#include "app/Countdown.h"
+#include "app/TargetController.h"
+#include "app/WindowPlacement.h"
+#include "logging/WritingClock.h"
+#include "profiles/CSystemOptions.h"
+
+#include <functional>
+
+namespace ondrilo {
+
+/// The one timer of a session, and what falls due on its ticks.
+class SessionClock {
+  public:
+    using ChangeProfile = std::function<void(TextView)>;
+
+    SessionClock(const Environment& environment, const CUserProfileSet& profiles,
+                 const CSystemOptions& systemOptions, TargetController& targetController,
+                 PredictionCycle& cycle, Countdowns& countdowns, WritingClock& writingClock,
+                 WindowPlacement& placement, CaretFollower& caretFollower, const SessionServices& services,
+                 ChangeProfile changeProfile);
+
+    /// Tells the person if no timer can be had; the session then goes on without a clock.
+    void StartTimers();
+    void StopTimers();
+
+  private:
+    void OnTimer();
+    void MoveAgent();
+    void AdaptToContext();
+    void ReadHints();
+    void PauseWriting();
+    [[nodiscard]] const CUserProfileProperties& Options() const { return profiles.Active().properties; }
+
+    TimerService& timers;
+    MessageBoxes& boxes;
+    const Desktop& desktop;
+    FrameWindow& frame;
+    const CUserProfileSet& profiles;
+    const CSystemOptions& systemOptions;
+    TargetController& targetController;
+    PredictionCycle& cycle;
+    Countdowns& countdowns;
+    WritingClock& writingClock;
+    WindowPlacement& placement;
+    CaretFollower& caretFollower;
+    SessionServices services;
+    ChangeProfile changeProfile;
+    std::unique_ptr<Timer> timer;
+};
+
+} // namespace ondrilo

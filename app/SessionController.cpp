@@ -1,0 +1,124 @@
+#include "app/SessionController.h"
+
+#include "app/AgentPlace.h"
+#include "app/Notice.h"
+
+namespace ondrilo {
+namespace {
+
+class WaitCursor {
+  public:
+    explicit WaitCursor(FrameWindow& frame) : frame(frame) { frame.SetBusy(true); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+    ~WaitCursor() { frame.SetBusy(false); }
+
+  private:
+    FrameWindow& frame;
+};
+
+constexpr TextView kNoVoice = "Nenhum";
+constexpr int kPreviewMargin = 5;
+
+} // namespace
+
+SessionController::SessionController(const Environment& environment, CUserProfileSet& profiles,
+                                     KeyboardController& keyboards, LoggingController& logging,
+                                     WindowPlacement& placement, TargetController& targetController,
+                                     PreviewController& preview, PredictionKeys& keys,
+                                     Predictions& predictions, KeySender& sender,
+                                     CKeyboard& keyboardSimulator, CCommands& commands, SessionState& state,
+                                     const SessionServices& services)
+    : queue(environment.queue), frame(environment.frame), windows(environment.windows),
+      desktop(environment.desktop), profiles(profiles), keyboards(keyboards), logging(logging),
+      placement(placement), targetController(targetController), preview(preview), keys(keys),
+      predictions(predictions), sender(sender), keyboardSimulator(keyboardSimulator), commands(commands),
+      state(state), services(services) {
+}
+
+void SessionController::StartSession() {
+    const WaitCursor wait(frame);
+    running = true;
+    logging.ResetMetrics();
+    logging.StartLog();
+    SelectVoice();
+    keyboards.LoadKeyboard(Options().activeKeyboardName);
+    keyboards.Announce();
+    placement.SetUpWindow();
+    StartAgent();
+    predictions.ClearResults();
+    keys.lists.RestartPaging();
+    keys.text.ClearHotKeys();
+    services.context.Reset();
+    targetController.CreateInternalEditor();
+    targetController.StartFollowing();
+    placement.LayOut();
+    CreatePreview();
+    state.ForgetSelection();
+    state.lastKeyCode = -1;
+    keyboardSimulator.Initialize();
+    commands.SetProfileNames([this] { return profiles.GetProfileNames(); });
+    clock->StartTimers();
+    frame.Redraw();
+}
+
+void SessionController::SelectVoice() {
+    const auto& name = Options().Get(option::NOME_SINTETIZADOR_FALA);
+    services.speech.SelectVoice(name == kNoVoice ? TextView() : TextView(name));
+}
+
+void SessionController::StartAgent() {
+    if (!Options().IsOn(option::AGENTE_ACTIVO))
+        return;
+    if (!services.agent.Start(Options().Get(option::NOME_AGENTE), AgentPlace(frame)))
+        profiles.Active().Set(option::AGENTE_ACTIVO, 0);
+}
+
+void SessionController::CreatePreview() {
+    // The colours stand crosswise on purpose: the preview looks like a lit key.
+    preview.Create(
+        {{Options().Get(option::TIPO_LETRA), Options().Get(option::TAMANHO_LETRAS_PALAVRAS_PREDITAS)},
+         Options().Get(option::COR_LETRAS),
+         Options().Get(option::COR_FUNDO),
+         kPreviewMargin});
+}
+
+void SessionController::StopSession() {
+    if (!running)
+        return;
+    const MessageQueue::Hold hold(queue);
+    logging.EndLog();
+    if (services.cooperation.IsUp())
+        services.cooperation.End();
+    commands.SetProfileNames({});
+    sender.ReleaseShift();
+    keyboardSimulator.keySet.Clear();
+    clock->StopTimers();
+    preview.Destroy();
+    targetController.StopFollowing();
+    if (Options().IsOn(option::AGENTE_ACTIVO))
+        services.agent.Stop();
+    keyboards.CloseKeyboard();
+    placement.ClearBackground();
+    services.speech.Release();
+    running = false;
+    frame.Redraw();
+    queue.Clear();
+}
+
+void SessionController::ChangeProfile(TextView name) {
+    // A copy: the name may belong to the session that ends.
+    const Text profile(name);
+    StopSession();
+    profiles.Open(profile);
+    auto& properties = profiles.Active().properties;
+    properties.activeKeyboardName = properties.Get(option::NOME_TECLADO);
+    StartSession();
+}
+
+void SessionController::LoadProfile(TextView name) {
+    const auto notice = ShowNotice(windows, desktop, kLoadingProfileNotice);
+    ChangeProfile(name);
+}
+
+} // namespace ondrilo

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "app/KeyboardController.h"
+#include "app/LoggingController.h"
+#include "app/SessionClock.h"
+#include "keyboards/CCommands.h"
+
+namespace ondrilo {
+
+/// Begins and ends the time during which one profile is active. The order of the steps counts.
+class SessionController {
+  public:
+    SessionController(const Environment& environment, CUserProfileSet& profiles,
+                      KeyboardController& keyboards, LoggingController& logging, WindowPlacement& placement,
+                      TargetController& targetController, PreviewController& preview, PredictionKeys& keys,
+                      Predictions& predictions, KeySender& sender, CKeyboard& keyboardSimulator,
+                      CCommands& commands, SessionState& state, const SessionServices& services);
+
+    /// Given once, before the first session: the clock can change the profile itself.
+    void SetClock(SessionClock& sessionClock) { clock = &sessionClock; }
+
+    /// Needs an active profile.
+    void StartSession();
+    /// Handles no message meanwhile, and throws away what was posted. The active profile stays active.
+    /// Nothing if no session runs.
+    void StopSession();
+    void ChangeProfile(TextView name);
+    /// ChangeProfile under a notice.
+    void LoadProfile(TextView name);
+    [[nodiscard]] bool IsRunning() const { return running; }
+
+  private:
+    void SelectVoice();
+    void StartAgent();
+    void CreatePreview();
+    [[nodiscard]] const CUserProfileProperties& Options() const { return profiles.Active().properties; }
+
+    MessageQueue& queue;
+    FrameWindow& frame;
+    SessionWindows& windows;
+    const Desktop& desktop;
+    CUserProfileSet& profiles;
+    KeyboardController& keyboards;
+    LoggingController& logging;
+    WindowPlacement& placement;
+    TargetController& targetController;
+    PreviewController& preview;
+    PredictionKeys& keys;
+    Predictions& predictions;
+    KeySender& sender;
+    CKeyboard& keyboardSimulator;
+    CCommands& commands;
+    SessionState& state;
+    SessionServices services;
+    SessionClock* clock = nullptr;
+    bool running = false;
+};
+
+} // namespace ondrilo

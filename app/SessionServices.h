@@ -1,0 +1,149 @@
+#pragma once
+
+#include "keyboards/COnScreenKeyData.h"
+#include "logging/EventLog.h"
+#include "logging/MetricsSink.h"
+#include "platform/Clock.h"
+#include "platform/Desktop.h"
+#include "platform/Geometry.h"
+#include "speech/SpeechService.h"
+#include "targets/CWordProcessor.h"
+#include "text/Text.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+/// The services around a session, as small interfaces. Each base class is at the same time the form that does
+/// nothing, for installations and tests without that service.
+namespace ondrilo {
+
+/// The animated character beside the window.
+class Agent {
+  public:
+    virtual ~Agent() = default;
+    /// Loads and shows a character; false if that fails.
+    virtual bool Start(TextView /*name*/, Point /*position*/) { return false; }
+    virtual void Move(Point /*position*/, Milliseconds /*duration*/) {}
+    virtual void Play(TextView /*animation*/) {}
+    virtual void Stop() {}
+};
+
+class GpsSource {
+  public:
+    virtual ~GpsSource() = default;
+    virtual void Start(TextView /*port*/) {}
+    virtual void Stop() {}
+    [[nodiscard]] virtual bool IsActive() const { return false; }
+};
+
+class BluetoothSource {
+  public:
+    virtual ~BluetoothSource() = default;
+    /// Starts to look for the tags of all profiles.
+    virtual void Start() {}
+    virtual void Stop() {}
+};
+
+/// Chooses the active profile from time, place and tags.
+class ContextAdapter {
+  public:
+    virtual ~ContextAdapter() = default;
+    /// The profile of the present context; "generico" if none fits.
+    virtual Text GetStartProfile() { return "generico"; }
+    /// The profile to change to now; nothing keeps the active one.
+    virtual std::optional<Text> DecideProfile() { return std::nullopt; }
+    virtual void Reset() {}
+};
+
+enum class CooperativeRole { Client, Server };
+
+/// Work with a partner at another machine.
+class CooperativeSession {
+  public:
+    virtual ~CooperativeSession() = default;
+    [[nodiscard]] virtual bool IsUp() const { return false; }
+    [[nodiscard]] virtual CooperativeRole Role() const { return CooperativeRole::Client; }
+    [[nodiscard]] virtual bool HasData() { return false; }
+    /// Reads the partner's suggestions and shows them on the keys.
+    virtual void ShowHints() {}
+    virtual void End() {}
+};
+
+/// The records of the configurator's work: dialogs and menu commands by their numbers.
+class UserRecord {
+  public:
+    virtual ~UserRecord() = default;
+    virtual void Open() {}
+    virtual void Close() {}
+    virtual void MenuSelected(int /*command*/) {}
+};
+
+/// Selection by one or two switches.
+class ScanningSwitches {
+  public:
+    virtual ~ScanningSwitches() = default;
+    /// `number` is 1 or 2.
+    virtual void SwitchDown(int /*number*/) {}
+    virtual void SwitchUp(int /*number*/) {}
+    /// Name or description of the line, group or key that is lit.
+    [[nodiscard]] virtual Text LitDescription() const { return {}; }
+    /// "SCANNING_ADVANCE_" and what is being scanned, for the event log.
+    [[nodiscard]] virtual Text AdvanceEvent() const { return {}; }
+};
+
+/// Makes the picture of a pictogram key and puts it into the editor.
+class PictogramWriter {
+  public:
+    virtual ~PictogramWriter() = default;
+    /// `standsFor` is the text that the picture stands for in the tagged forms.
+    virtual void Insert(const COnScreenKeyData& /*key*/, TextView /*standsFor*/, CWordProcessor& /*editor*/) {
+    }
+};
+
+/// Targets in other programs' windows.
+class ExternalTargets {
+  public:
+    virtual ~ExternalTargets() = default;
+    enum class Kind { Generic, MicrosoftWord };
+    /// A target for the window, ready for use; null if the window cannot be written to.
+    virtual std::unique_ptr<CWordProcessor> Create(Kind, WindowId) { return nullptr; }
+};
+
+struct SessionServices {
+    EventLog& log;
+    MetricsSink& metrics;
+    SpeechService& speech;
+    Agent& agent;
+    GpsSource& gps;
+    BluetoothSource& bluetooth;
+    ContextAdapter& context;
+    CooperativeSession& cooperation;
+    UserRecord& userRecord;
+    ScanningSwitches& scanning;
+    ExternalTargets& externalTargets;
+    PictogramWriter& pictograms;
+};
+
+/// Every service in the form that does nothing.
+struct NullServices {
+    EventLog log;
+    MetricsSink metrics;
+    SpeechService speech;
+    Agent agent;
+    GpsSource gps;
+    BluetoothSource bluetooth;
+    ContextAdapter context;
+    CooperativeSession cooperation;
+    UserRecord userRecord;
+    ScanningSwitches scanning;
+    ExternalTargets externalTargets;
+    PictogramWriter pictograms;
+
+    [[nodiscard]] SessionServices All() {
+        return {log,         metrics,    speech,   agent,           gps,       bluetooth, context,
+                cooperation, userRecord, scanning, externalTargets, pictograms};
+    }
+};
+
+} // namespace ondrilo

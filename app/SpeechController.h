@@ -1,0 +1,41 @@
+#pragma once
+
+#include "app/LearningController.h"
+#include "app/SessionServices.h"
+
+namespace ondrilo {
+
+/// All that the session speaks: keys, previews, and what was written.
+class SpeechController {
+  public:
+    SpeechController(const CUserProfileSet& profiles, const Targets& targets, LearningController& learning,
+                     const SessionServices& services);
+
+    /// The only way in which anything is spoken. Gives back the text, or nothing if the profile has no voice.
+    Text SpeakText(TextView text);
+
+    /// Word or pictogram, by what the insertion point follows.
+    struct Spoken {
+        bool isImage = false;
+        Text text;
+    };
+    Spoken SpeakWordOrImage();
+    Text SpeakCurrentWord();
+    Text SpeakCurrentImage();
+    /// Both also learn the current sentence, before the speech starts.
+    Text SpeakCurrentSentence();
+    Text SpeakAll();
+    void SpeakEndedWord();
+    void SpeakEndedSentence();
+
+  private:
+    [[nodiscard]] CWordProcessor* Target() const { return targets.Current(); }
+    void Count(Metric kind, TextView text, bool withSentences);
+
+    const CUserProfileSet& profiles;
+    const Targets& targets;
+    LearningController& learning;
+    SessionServices services;
+};
+
+} // namespace ondrilo

@@ -1,0 +1,95 @@
+#include "app/TargetController.h"
+
+namespace ondrilo {
+namespace {
+
+/// Whether a title is that of the word processor with a target of its own: the word stands at its very end
+/// and nowhere before.
+bool IsMicrosoftWord(TextView title) {
+    constexpr TextView kName = "Word";
+    const auto found = title.find(kName);
+    return found != TextView::npos && found + kName.size() == title.size();
+}
+
+} // namespace
+
+TargetController::TargetController(const Environment& environment, const CUserProfileSet& profiles,
+                                   Targets& targets, SpecialKeys& specialKeys, PreviewController& preview,
+                                   PredictionCycle& cycle, CKeyboard& keyboardSimulator,
+                                   Countdowns& countdowns, EventWriter& events,
+                                   const SessionServices& services)
+    : desktop(environment.desktop), queue(environment.queue), frame(environment.frame),
+      windows(environment.windows), profiles(profiles), targets(targets), specialKeys(specialKeys),
+      preview(preview), cycle(cycle), keyboardSimulator(keyboardSimulator), countdowns(countdowns),
+      events(events), services(services) {
+}
+
+void TargetController::CreateInternalEditor() {
+    const auto& profile = profiles.Active().properties;
+    const bool wanted = profile.IsOn(option::PROCESSADOR_TEXTO_INTERNO);
+    frame.SetAcceptsFocus(wanted);
+    if (!wanted)
+        return;
+    auto editor = std::make_unique<CInternalWordProcessor>(windows.CreateEditorBox(), keyboardSimulator,
+                                                           desktop, queue);
+    if (!editor->Create())
+        return;
+    editor->SetWidth(frame.ClientSize().width);
+    editor->SetHeight(profile.Get(option::ALTURA_EDITOR_MENSAGENS));
+    editor->SetFontName(profile.Get(option::TIPO_LETRA));
+    editor->SetFontSize(profile.Get(option::TAMANHO_LETRAS_PALAVRAS_PREDITAS));
+    targets.SetInternal(std::move(editor));
+}
+
+void TargetController::StartFollowing() {
+    targets.Detach();
+    lastForegroundWindow = 0;
+    specialKeys.MapSpecialKeys();
+    focusHook = desktop.OnFocusChange([this] { OnFocusChange(); });
+}
+
+void TargetController::StopFollowing() {
+    targets.Release();
+    focusHook.reset();
+}
+
+void TargetController::OnFocusChange() {
+    const auto foreground = desktop.ForegroundWindow();
+    if (foreground == lastForegroundWindow || desktop.IsSameProgram(foreground, lastForegroundWindow))
+        return;
+    targets.Detach();
+    preview.HidePreview();
+    countdowns.target.Restart();
+}
+
+void TargetController::AttachForeground() {
+    lastForegroundWindow = desktop.ForegroundWindow();
+    AttachTarget();
+}
+
+void TargetController::AttachTarget() {
+    if (desktop.IsOurs(lastForegroundWindow))
+        AttachInternal();
+    else
+        AttachExternal(lastForegroundWindow);
+    specialKeys.MapSpecialKeys();
+    cycle.RunPrediction();
+}
+
+void TargetController::AttachInternal() {
+    targets.UseInternal();
+    if (!targets.Internal())
+        return;
+    targets.Internal()->TextBox().TakeFocus();
+    events.Event("WORD_PROCESSOR_CHANGE", "INTERNAL_WORD_PROCESSOR");
+}
+
+void TargetController::AttachExternal(WindowId window) {
+    const auto title = desktop.TitleOf(window);
+    const bool isWord = IsMicrosoftWord(title);
+    events.Event("WORD_PROCESSOR_CHANGE", isWord ? TextView("MICROSOFT_WORD_PROCESSOR") : TextView(title));
+    targets.UseExternal(services.externalTargets.Create(
+        isWord ? ExternalTargets::Kind::MicrosoftWord : ExternalTargets::Kind::Generic, window));
+}
+
+} // namespace ondrilo

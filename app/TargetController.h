@@ -1,0 +1,51 @@
+#pragma once
+
+#include "app/Countdown.h"
+#include "app/Environment.h"
+#include "app/EventWriter.h"
+#include "app/PredictionCycle.h"
+#include "app/PreviewController.h"
+#include "app/SpecialKeys.h"
+
+namespace ondrilo {
+
+/// Follows the focus of the desktop: whoever has it becomes the text target, once it has settled.
+class TargetController {
+  public:
+    TargetController(const Environment& environment, const CUserProfileSet& profiles, Targets& targets,
+                     SpecialKeys& specialKeys, PreviewController& preview, PredictionCycle& cycle,
+                     CKeyboard& keyboardSimulator, Countdowns& countdowns, EventWriter& events,
+                     const SessionServices& services);
+
+    /// The internal editor, if the profile has one.
+    void CreateInternalEditor();
+    /// From here on the focus is followed; no target is in use yet.
+    void StartFollowing();
+    void StopFollowing();
+    /// The countdown of the target ran out: takes the foreground window as it is now.
+    void AttachForeground();
+
+  private:
+    void OnFocusChange();
+    void AttachTarget();
+    void AttachInternal();
+    void AttachExternal(WindowId window);
+
+    Desktop& desktop;
+    MessageQueue& queue;
+    FrameWindow& frame;
+    SessionWindows& windows;
+    const CUserProfileSet& profiles;
+    Targets& targets;
+    SpecialKeys& specialKeys;
+    PreviewController& preview;
+    PredictionCycle& cycle;
+    CKeyboard& keyboardSimulator;
+    Countdowns& countdowns;
+    EventWriter& events;
+    SessionServices services;
+    WindowId lastForegroundWindow = 0;
+    RegistrationHandle focusHook;
+};
+
+} // namespace ondrilo

@@ -1,0 +1,271 @@
+#include "app/ui/CMainFrame.h"
+
+#include "app/ui/MainMenu.h"
+#include "platform/qt/FocusReturn.h"
+#include "platform/qt/QtConversion.h"
+#include "targets/ui/KeyStrokes.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDialogButtonBox>
+#include <QExposeEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QTextEdit>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include <utility>
+
+namespace ondrilo {
+namespace {
+
+/// After so many tries the window manager will not give the size that the window asks for.
+constexpr int kMostRefusals = 3;
+
+} // namespace
+
+CMainFrame::CMainFrame(MessageQueue& queue, Desktop& desktop, const KeyOutput& layout)
+    : QMainWindow(nullptr, Qt::Window | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus),
+      queue(queue), desktop(desktop), layout(layout), view(new ViewWidget(this)) {
+    setObjectName("mainFrame");
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setCentralWidget(view);
+    FillMainMenu(*menuBar(), [this](int number) { OnMenuCommand(number); });
+    menuBar()->setNativeMenuBar(false);
+    statusBar()->setSizeGripEnabled(false);
+    connect(view, &ViewWidget::resized, this, &CMainFrame::OnViewResized);
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        if (state == Qt::ApplicationInactive)
+            SetAcceptsFocus(false);
+    });
+    winId(); // there is a native window from now on
+    windowHandle()->installEventFilter(this);
+}
+
+void CMainFrame::SetTitle(TextView title) {
+    if (const auto text = ToQString(title); text != windowTitle())
+        setWindowTitle(text);
+}
+
+// Flags are changed on the native window: a widget would be hidden and made anew for it.
+
+void CMainFrame::SetTopMost(bool topMost) {
+    windowHandle()->setFlag(Qt::WindowStaysOnTopHint, topMost);
+}
+
+void CMainFrame::SetAcceptsFocus(bool accepts) {
+    windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus, !accepts);
+}
+
+void CMainFrame::ShowCaption(bool visible) {
+    windowHandle()->setFlag(Qt::FramelessWindowHint, !visible);
+}
+
+void CMainFrame::ShowMenu(bool visible) {
+    menuBar()->setVisible(visible);
+}
+
+void CMainFrame::ShowStatusBar(bool visible) {
+    statusBar()->setVisible(visible);
+}
+
+void CMainFrame::Activate() {
+    if (isActiveWindow())
+        return;
+    SetAcceptsFocus(true);
+    raise();
+    activateWindow();
+}
+
+void CMainFrame::SetBusy(bool newBusy) {
+    if (busy == newBusy)
+        return;
+    busy = newBusy;
+    if (busy)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+void CMainFrame::Show(WindowState state) {
+    switch (state) {
+    case WindowState::Maximized:
+        return showMaximized();
+    case WindowState::Minimized:
+        return showMinimized();
+    case WindowState::Normal:
+        return showNormal();
+    }
+}
+
+WindowState CMainFrame::State() const {
+    if (isMinimized())
+        return WindowState::Minimized;
+    return isMaximized() ? WindowState::Maximized : WindowState::Normal;
+}
+
+Rectangle CMainFrame::Frame() const {
+    return FromQRect(frameGeometry());
+}
+
+void CMainFrame::FitClient(Size size) {
+    const QSize wanted(size.width, size.height);
+    if (wanted != fitted)
+        refusals = 0;
+    fitted = wanted;
+    if (refusals > kMostRefusals)
+        return;
+    const int menuHeight = menuBar()->isHidden() ? 0 : menuBar()->heightForWidth(size.width);
+    const int statusHeight = statusBar()->isHidden() ? 0 : statusBar()->sizeHint().height();
+    resize(size.width, menuHeight + size.height + statusHeight);
+    QMainWindow::layout()->activate();
+}
+
+void CMainFrame::EnableMenu(bool enabled) {
+    for (auto* action : menuBar()->actions())
+        action->setEnabled(enabled);
+}
+
+void CMainFrame::SetBackground(const std::optional<WindowBackground>& background) {
+    view->SetBackground(background);
+}
+
+void CMainFrame::Redraw() {
+    view->update();
+    TellLater(&FrameWindowListener::OnDraw);
+}
+
+void CMainFrame::SetStatusMessage(TextView text) {
+    statusBar()->showMessage(ToQString(text));
+}
+
+void CMainFrame::Close() {
+    QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+}
+
+void CMainFrame::TellLater(void (FrameWindowListener::*what)()) {
+    QMetaObject::invokeMethod(
+        this,
+        [this, what] {
+            if (listener)
+                (listener->*what)();
+        },
+        Qt::QueuedConnection);
+}
+
+void CMainFrame::OnViewResized() {
+    if (isMinimized())
+        return;
+    if (!isMaximized() && view->size() == fitted)
+        return;
+    ++refusals;
+    queue.Post(Message::UM_LAYOUT);
+}
+
+bool CMainFrame::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::Expose || !windowHandle()->isExposed() || exposurePending)
+        return QMainWindow::eventFilter(watched, event);
+    exposurePending = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            exposurePending = false;
+            if (!listener)
+                return;
+            // A window that refuses the focus is as active as it gets once it shows.
+            if (!std::exchange(activated, true))
+                listener->OnActivateView();
+            listener->OnDraw();
+        },
+        Qt::QueuedConnection);
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void CMainFrame::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && !isMinimized())
+        queue.Post(Message::UM_LAYOUT);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        activated = true;
+        TellLater(&FrameWindowListener::OnActivateView);
+    }
+}
+
+void CMainFrame::closeEvent(QCloseEvent* event) {
+    // The end of a session may ask a question; a second wish to close must not come in between.
+    if (std::exchange(closing, true)) {
+        event->ignore();
+        return;
+    }
+    if (auto* told = std::exchange(listener, nullptr))
+        told->OnDestroy();
+    event->accept();
+    QApplication::quit();
+}
+
+void CMainFrame::keyPressEvent(QKeyEvent* event) {
+    if (listener)
+        for (const int code : VirtualKeysOf(*event, layout))
+            listener->OnKeyDown(code, KeyDataOf(*event));
+}
+
+void CMainFrame::keyReleaseEvent(QKeyEvent* event) {
+    if (!listener || event->isAutoRepeat())
+        return;
+    for (const int code : VirtualKeysOf(*event, layout))
+        listener->OnKeyUp(code, KeyDataOf(*event));
+}
+
+void CMainFrame::OnMenuCommand(int number) {
+    Edit(number);
+    // A menu still being closed must not be in the way of what the command does to the window.
+    QMetaObject::invokeMethod(
+        this,
+        [this, number] {
+            if (listener)
+                listener->OnMenuCommand(number);
+            if (number == command::About)
+                ShowAbout();
+            if (number == command::Quit)
+                close();
+        },
+        Qt::QueuedConnection);
+}
+
+void CMainFrame::Edit(int number) {
+    auto* editor = view->findChild<QTextEdit*>();
+    if (!editor)
+        return;
+    switch (number) {
+    case command::Undo:
+        return editor->undo();
+    case command::Cut:
+        return editor->cut();
+    case command::Copy:
+        return editor->copy();
+    case command::Paste:
+        return editor->paste();
+    default:
+        return;
+    }
+}
+
+void CMainFrame::ShowAbout() {
+    QDialog dialog(this);
+    dialog.setObjectName("aboutDialog");
+    dialog.setWindowTitle(tr("Acerca"));
+    auto* text = new QLabel(tr("<h2>Ondrilo 3.0</h2>"
+                               "<p>Comunicação aumentativa e alternativa com teclados de ecrã<br>"
+                               "e predição de palavras, frases e pictogramas.</p>"
+                               "<p>Software livre, sob a licença GPL, versão 3 ou posterior.</p>"));
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
+    connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    auto* rows = new QVBoxLayout(&dialog);
+    rows->addWidget(text);
+    rows->addWidget(buttons);
+    RunDialog(dialog, desktop);
+}
+
+} // namespace ondrilo

@@ -1,0 +1,55 @@
+#include "app/ui/CTextWindow.h"
+
+#include "platform/qt/QtConversion.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+
+namespace ondrilo {
+
+CTextWindow::CTextWindow(const TextWindowStyle& style, QWidget* parent)
+    : QWidget(parent, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                          Qt::WindowDoesNotAcceptFocus),
+      style(style) {
+    setObjectName("textWindow");
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::NoFocus);
+    setFont(ToQFont(style.font));
+    Fit();
+}
+
+void CTextWindow::SetText(TextView newText) {
+    text = ToQString(newText);
+    setAccessibleName(text);
+    Fit();
+    if (isVisible())
+        repaint();
+}
+
+void CTextWindow::MoveTo(Point position) {
+    lowerLeft = position;
+    Fit();
+}
+
+void CTextWindow::Show() {
+    show();
+    // The event loop may be far away: a notice stands during long work.
+    repaint();
+}
+
+void CTextWindow::Fit() {
+    const QFontMetrics measures(font());
+    const QSize size(measures.horizontalAdvance(text) + 2 * style.margin, measures.height());
+    setGeometry({QPoint(lowerLeft.x, lowerLeft.y - size.height()), size});
+}
+
+void CTextWindow::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), ToQColor(style.background));
+    painter.setPen(ToQColor(style.text));
+    painter.drawText(rect().adjusted(style.margin, 0, 0, 0),
+                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
+}
+
+} // namespace ondrilo
