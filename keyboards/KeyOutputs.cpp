@@ -1,6 +1,5 @@
 #include "keyboards/KeyOutputs.h"
 
-#include "keyboards/KeySymbol.h"
 #include "keyboards/Pictograms.h"
 #include "text/CaseFolding.h"
 #include "text/NormalForm.h"
@@ -52,11 +51,6 @@ CommandCall ParseCommand(TextView output) {
     Tokens words = Split(WithoutBrackets(output), " ");
     words.resize(2);
     return {std::move(words[0]), std::move(words[1])};
-}
-
-bool IsWrappedLabel(TextView label) {
-    const auto words = Split(label).size();
-    return words > 2 || (words > 0 && label.find_first_of(kTerminators) != TextView::npos);
 }
 
 } // namespace ondrilo
