@@ -4,6 +4,7 @@
 #include "keyboards/ui/Fill.h"
 
 #include <QFontMetricsF>
+#include <QPaintEngine>
 #include <QPainterPath>
 
 #include <algorithm>
@@ -59,7 +60,8 @@ QRectF PaintCaption(QPainter& painter, const QRectF& key, const KeyFace& face) {
 /// Scales by hand to the very pixels of the device: a painter's own scaling skips pixels of large pictures.
 void PaintScaled(QPainter& painter, const QRectF& target, const QImage& picture) {
     const auto device = painter.deviceTransform().mapRect(target).toAlignedRect();
-    if (device.size() == picture.size())
+    // Paper takes the whole picture.
+    if (device.size() == picture.size() || painter.paintEngine()->type() != QPaintEngine::Raster)
         painter.drawImage(target, picture);
     else
         painter.drawImage(target,
