@@ -108,11 +108,15 @@ CDictionary::Position CDictionary::Find(const DictionarySide& side, TextView tex
 std::size_t CDictionary::NextSet(const DictionarySide& side, TextView text,
                                  std::vector<DictionaryNextEntry>& out) {
     out.clear();
+    const EntryId first = side.Find(text).entry;
+    if (first == kNoEntry)
+        return 0;
     const Vocabulary& entries = side.Entries();
-    if (const EntryId first = side.Find(text).entry; first != kNoEntry)
-        entries.ForEachSuccessor(first, Vocabulary::kMaximumSuccessors, [&](const Successor& next) {
-            out.push_back({DictionaryEntry(entries, next.entry), next.frequency, next.userFrequency});
-        });
+    const Successors successors = entries.SuccessorsOf(first).First(Vocabulary::kMaximumSuccessors);
+    for (std::size_t i = 0; i < successors.Size(); ++i) {
+        const auto [next, frequency, userFrequency] = successors[i];
+        out.push_back({DictionaryEntry(entries, next), frequency, userFrequency});
+    }
     return out.size();
 }
 

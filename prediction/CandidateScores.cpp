@@ -19,12 +19,13 @@ double Ratio(double part, double whole) {
 CandidateScores::CandidateScores() : marks(Vocabulary::kCapacity) {
     candidates.reserve(kCapacity);
     scores.reserve(kCapacity);
-    successors.reserve(Vocabulary::kMaximumSuccessors);
+    marked.reserve(Vocabulary::kMaximumSuccessors);
 }
 
 void CandidateScores::Start(const Vocabulary& newVocabulary) {
     vocabulary = &newVocabulary;
     candidates.clear();
+    runs.clear();
     scores.clear();
 }
 
@@ -35,25 +36,33 @@ void CandidateScores::CheckRoom(std::size_t further) const {
 
 void CandidateScores::AddRun(Vocabulary::Run run) {
     CheckRoom(run.Size());
+    if (run.Size() == 0)
+        return;
+    const std::size_t begin = candidates.size();
     vocabulary->Collect(run, candidates);
+    runs.push_back({begin, candidates.size()});
 }
 
 void CandidateScores::AddSuccessorsOf(EntryId first) {
     if (first == kNoEntry)
         return;
-    vocabulary->ForEachSuccessor(first, Vocabulary::kMaximumSuccessors, [this](const Successor& next) {
-        CheckRoom(1);
-        candidates.push_back(next.entry);
-    });
+    const Successors successors = vocabulary->SuccessorsOf(first).First(Vocabulary::kMaximumSuccessors);
+    CheckRoom(successors.Size());
+    if (successors.Size() == 0)
+        return;
+    runs.push_back({candidates.size(), candidates.size() + successors.Size()});
+    for (std::size_t i = 0; i < successors.Size(); ++i)
+        candidates.push_back(successors[i].entry);
 }
 
 void CandidateScores::Score(const ScoreRule& rule) {
     const VocabularyTotals& totals = rule.totals;
     double previousShare = 0;
     double previousUserShare = 0;
-    successors.clear();
+    Successors successors;
     if (rule.previous != kNoEntry) {
-        MarkSuccessors(rule.previous);
+        successors = vocabulary->SuccessorsOf(rule.previous).First(Vocabulary::kMaximumSuccessors);
+        MarkCandidates(successors);
         previousShare = Ratio(vocabulary->Frequency(rule.previous), totals.general);
         previousUserShare = Ratio(vocabulary->UserFrequency(rule.previous), totals.user);
     }
@@ -65,7 +74,7 @@ void CandidateScores::Score(const ScoreRule& rule) {
         double score = rule.userWeight * Ratio(vocabulary->UserFrequency(candidate), totals.user) +
                        rule.weight * Ratio(vocabulary->Frequency(candidate), totals.general);
         if (const std::uint16_t mark = marks[candidate]; mark != 0) {
-            const Successor& next = successors[mark - 1U];
+            const Successor next = successors[mark - 1U];
             const double general = Ratio(Ratio(next.frequency, totals.generalPairs), previousShare);
             const double user = Ratio(Ratio(next.userFrequency, totals.userPairs), previousUserShare);
             score += rule.userPairWeight * user + rule.pairWeight * general;
@@ -74,40 +83,58 @@ void CandidateScores::Score(const ScoreRule& rule) {
             score += rule.classTerms[vocabulary->ClassOf(candidate)];
         scores[i] = score;
     }
-    UnmarkSuccessors();
+    for (const EntryId candidate : marked)
+        marks[candidate] = 0;
+    marked.clear();
 }
 
-void CandidateScores::MarkSuccessors(EntryId first) {
-    bool ascending = vocabulary->Ascending();
-    vocabulary->ForEachSuccessor(first, Vocabulary::kMaximumSuccessors, [&](const Successor& next) {
-        if (!successors.empty() && vocabulary->Precedes(next.entry, successors.back().entry))
-            ascending = false;
-        successors.push_back(next);
-    });
-    if (ascending) {
-        for (std::size_t i = successors.size(); i-- > 0;)
-            marks[successors[i].entry] = static_cast<std::uint16_t>(i + 1);
-        return;
-    }
+void CandidateScores::MarkCandidates(const Successors& successors) {
+    if (vocabulary->Ascending() && successors.Ascending())
+        for (const auto& [begin, end] : runs)
+            MarkRun(successors, candidates[begin], candidates[end - 1]);
+    else
+        MarkInDisorder(successors);
+}
 
-    // Files in disorder: what a search by text among the successors finds, which may be another or none.
-    const auto textAt = [this](std::size_t i) {
+/// Looks only at the successors that lie between the first and the last candidate of a run, so that the cost
+/// is that of the run and not of the successors.
+void CandidateScores::MarkRun(const Successors& successors, EntryId first, EntryId last) {
+    std::size_t low = 0;
+    std::size_t high = successors.Size();
+    while (low < high) {
+        const std::size_t middle = (low + high) / 2;
+        if (vocabulary->Precedes(successors[middle].entry, first))
+            low = middle + 1;
+        else
+            high = middle;
+    }
+    for (std::size_t i = low; i < successors.Size(); ++i) {
+        const EntryId next = successors[i].entry;
+        if (vocabulary->Precedes(last, next))
+            return;
+        Mark(next, i);
+    }
+}
+
+/// What the search by text among the successors finds, which in disorder may be another or none.
+void CandidateScores::MarkInDisorder(const Successors& successors) {
+    const auto textAt = [&](std::size_t i) {
         return vocabulary->TextOf(successors[i].entry);
     };
     for (const EntryId candidate : candidates) {
         const TextView text = vocabulary->TextOf(candidate);
-        const std::size_t i = SearchPosition(successors.size(), text, textAt);
-        if (i < successors.size() && textAt(i) == text)
-            marks[candidate] = static_cast<std::uint16_t>(i + 1);
+        const std::size_t i = SearchPosition(successors.Size(), text, textAt);
+        if (i < successors.Size() && textAt(i) == text)
+            Mark(candidate, i);
     }
 }
 
-void CandidateScores::UnmarkSuccessors() {
-    for (const Successor& next : successors)
-        marks[next.entry] = 0;
-    if (!vocabulary->Ascending())
-        for (const EntryId candidate : candidates)
-            marks[candidate] = 0;
+void CandidateScores::Mark(EntryId candidate, std::size_t successor) {
+    // Of a pair that the file tells twice the first counts.
+    if (marks[candidate] != 0)
+        return;
+    marks[candidate] = static_cast<std::uint16_t>(successor + 1);
+    marked.push_back(candidate);
 }
 
 std::size_t CandidateScores::Best(std::size_t n, std::vector<DictionaryScore>& out) {

@@ -43,16 +43,26 @@ class CandidateScores {
 
   private:
     void CheckRoom(std::size_t further) const;
-    void MarkSuccessors(EntryId first);
-    void UnmarkSuccessors();
+    void MarkCandidates(const Successors& successors);
+    void MarkRun(const Successors& successors, EntryId first, EntryId last);
+    void MarkInDisorder(const Successors& successors);
+    void Mark(EntryId candidate, std::size_t successor);
+
+    /// Candidates begin to end - 1, which came in ascending order.
+    struct CandidateRun {
+        std::size_t begin;
+        std::size_t end;
+    };
 
     const Vocabulary* vocabulary = nullptr;
     std::vector<EntryId> candidates;
+    std::vector<CandidateRun> runs;
     std::vector<double> scores;
     std::vector<SelectedScore> best;
-    std::vector<Successor> successors;
-    /// By entry: 1 + index in `successors`, 0 for an entry that is none. All 0 between predictions.
+    /// By entry: 1 + index among the successors of the entry before, 0 for one that is none. All 0 between
+    /// predictions, thanks to `marked`.
     std::vector<std::uint16_t> marks;
+    std::vector<EntryId> marked;
 };
 
 } // namespace ondrilo

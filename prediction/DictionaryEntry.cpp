@@ -12,8 +12,9 @@ int DictionaryEntry::MaxUserNextFrequency() const {
 
 int DictionaryEntry::GreatestOverSuccessors(int Successor::*counter) const {
     int greatest = 0;
-    vocabulary->ForEachSuccessor(
-        id, kAllSuccessors, [&](const Successor& next) { greatest = std::max(greatest, next.*counter); });
+    const Successors successors = vocabulary->SuccessorsOf(id);
+    for (std::size_t i = 0; i < successors.Size(); ++i)
+        greatest = std::max(greatest, successors[i].*counter);
     return greatest;
 }
 

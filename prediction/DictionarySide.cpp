@@ -159,15 +159,19 @@ SaveResult DictionarySide::SaveUserPairs() {
     for (const EntryId first : all) {
         if (entries.UserFrequency(first) == 0)
             continue;
+        const Text firstOnFile = FormOnFile(first);
+        const Successors successors = entries.SuccessorsOf(first);
         std::size_t taken = 0;
-        entries.ForEachSuccessor(first, kAllSuccessors, [&](const Successor& next) {
-            if (next.userFrequency == 0 || ++taken > Vocabulary::kMaximumSuccessors)
-                return;
+        for (std::size_t i = 0; i < successors.Size() && taken < Vocabulary::kMaximumSuccessors; ++i) {
+            const Successor next = successors[i];
+            if (next.userFrequency == 0)
+                continue;
+            ++taken;
             // A pair dies with either of its entries.
             if (entries.UserFrequency(next.entry) > 0)
-                bytes += FormOnFile(first) + " " + FormOnFile(next.entry) + " " +
+                bytes += firstOnFile + " " + FormOnFile(next.entry) + " " +
                          std::to_string(next.userFrequency) + "\n";
-        });
+        }
     }
 
     SaveResult saved = ReplaceFile(userPairsPath, bytes);

@@ -24,24 +24,23 @@ ClassId GeneralEntries::Intern(TextView className) {
 }
 
 void GeneralEntries::Finish() {
-    slots.assign(std::bit_ceil(2 * Count() + 1), kNoEntry);
+    slots.assign(std::bit_ceil(2 * Count() + 1), {});
     for (EntryId entry = 0; entry < Count(); ++entry) {
-        std::size_t slot = FirstSlot(TextOf(entry));
-        while (slots[slot] != kNoEntry)
-            slot = NextSlot(slot);
-        slots[slot] = entry;
+        const std::size_t hash = std::hash<TextView>()(TextOf(entry));
+        std::size_t number = hash;
+        while (SlotAt(number).entry != kNoEntry)
+            ++number;
+        slots[number & (slots.size() - 1)] = {TagOf(hash), entry};
     }
 }
 
 EntryId GeneralEntries::Find(TextView text) const {
-    std::size_t slot = FirstSlot(text);
-    while (slots[slot] != kNoEntry && TextOf(slots[slot]) != text)
-        slot = NextSlot(slot);
-    return slots[slot];
-}
-
-std::size_t GeneralEntries::FirstSlot(TextView text) const {
-    return std::hash<TextView>()(text) & (slots.size() - 1);
+    const std::size_t hash = std::hash<TextView>()(text);
+    for (std::size_t number = hash;; ++number) {
+        const auto [tag, entry] = SlotAt(number);
+        if (entry == kNoEntry || (tag == TagOf(hash) && TextOf(entry) == text))
+            return entry;
+    }
 }
 
 ClassId GeneralEntries::FindClass(const Text& name) const {

@@ -59,9 +59,15 @@ class GeneralEntries {
     [[nodiscard]] EntryId Find(TextView text) const;
 
   private:
+    struct Slot {
+        /// Upper half of the hash, which spares most comparisons of texts.
+        std::uint32_t tag = 0;
+        EntryId entry = kNoEntry;
+    };
+
     ClassId Intern(TextView className);
-    [[nodiscard]] std::size_t FirstSlot(TextView text) const;
-    [[nodiscard]] std::size_t NextSlot(std::size_t slot) const { return (slot + 1) & (slots.size() - 1); }
+    static std::uint32_t TagOf(std::size_t hash) { return static_cast<std::uint32_t>(hash >> 32); }
+    [[nodiscard]] const Slot& SlotAt(std::size_t number) const { return slots[number & (slots.size() - 1)]; }
 
     TextPool texts;
     std::vector<int> frequencies;
@@ -70,7 +76,7 @@ class GeneralEntries {
     std::unordered_map<Text, ClassId> classIds;
     bool ascending = true;
     /// Open addressing by the hash of the text, at most half full.
-    std::vector<EntryId> slots;
+    std::vector<Slot> slots;
 };
 
 } // namespace ondrilo

@@ -31,11 +31,16 @@ class GeneralPairs {
             return {};
         return std::span(successors).subspan(starts[first], starts[first + 1] - starts[first]);
     }
+    /// True if those successors ascend by number.
+    [[nodiscard]] bool AscendingOf(EntryId first) const {
+        return first >= disordered.size() || !disordered[first];
+    }
     [[nodiscard]] bool Empty() const { return successors.empty(); }
 
   private:
     std::vector<std::uint32_t> starts;
     std::vector<GeneralSuccessor> successors;
+    std::vector<bool> disordered;
 };
 
 } // namespace ondrilo

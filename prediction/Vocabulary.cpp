@@ -56,10 +56,22 @@ std::size_t Vocabulary::PositionOf(EntryId generalEntry) const {
 }
 
 Vocabulary::Found Vocabulary::Find(TextView text) const {
-    if (general->Ascending())
-        if (const EntryId entry = general->Find(text); entry != kNoEntry)
-            return {entry, PositionOf(entry)};
+    if (!general->Ascending())
+        return FindInDisorder(text);
+    if (const EntryId entry = general->Find(text); entry != kNoEntry)
+        return {entry, PositionOf(entry)};
 
+    const auto place = std::partition_point(added.begin(), added.end(),
+                                            [&](const AddedEntry& own) { return TextOf(own.entry) < text; });
+    const auto number = static_cast<std::size_t>(place - added.begin());
+    if (place != added.end() && TextOf(place->entry) == text)
+        return {place->entry, place->before + number};
+    const auto before = SearchPosition(
+        general->Count(), text, [this](std::size_t at) { return general->TextOf(static_cast<EntryId>(at)); });
+    return {kNoEntry, before + number};
+}
+
+Vocabulary::Found Vocabulary::FindInDisorder(TextView text) const {
     const std::size_t position =
         SearchPosition(Count(), text, [this](std::size_t at) { return TextOf(At(at)); });
     if (position < Count())
@@ -140,10 +152,7 @@ Vocabulary::SuccessorList& Vocabulary::MakeOwnList(EntryId first) {
     list.successors.reserve(shared.size() + 1);
     for (const GeneralSuccessor& successor : shared)
         list.successors.push_back({successor.entry, successor.frequency, 0});
-    list.ascending =
-        std::is_sorted(shared.begin(), shared.end(), [this](const auto& left, const auto& right) {
-            return Precedes(left.entry, right.entry);
-        });
+    list.ascending = general->Ascending() && pairs->AscendingOf(first);
     return list;
 }
 

@@ -26,8 +26,31 @@ struct Successor {
     int userFrequency = 0;
 };
 
-/// For ForEachSuccessor.
-inline constexpr std::size_t kAllSuccessors = static_cast<std::size_t>(-1);
+/// The successors of one entry, in ascending order unless the general file is in disorder. A view, valid
+/// until the vocabulary next changes.
+class Successors {
+  public:
+    Successors() = default;
+    Successors(std::span<const GeneralSuccessor> shared, bool ascending)
+        : shared(shared), ascending(ascending) {}
+    Successors(std::span<const Successor> own, bool ascending) : own(own), ascending(ascending) {}
+
+    [[nodiscard]] std::size_t Size() const { return own.size() + shared.size(); }
+    [[nodiscard]] Successor operator[](std::size_t i) const {
+        return own.empty() ? Successor{shared[i].entry, shared[i].frequency, 0} : own[i];
+    }
+    [[nodiscard]] bool Ascending() const { return ascending; }
+    [[nodiscard]] Successors First(std::size_t most) const {
+        return own.empty() ? Successors(shared.first(std::min(most, shared.size())), ascending)
+                           : Successors(own.first(std::min(most, own.size())), ascending);
+    }
+
+  private:
+    // One of the two is empty.
+    std::span<const GeneralSuccessor> shared;
+    std::span<const Successor> own;
+    bool ascending = true;
+};
 
 /// The words, or the sentences, of one profile as one ascending whole: the general entries, which may be
 /// shared with other profiles, and over them the profile's own counters, entries and pairs. Knows no files
@@ -89,18 +112,11 @@ class Vocabulary {
     /// Adds to the user counter of a successor, which is put in its place if it is new.
     void AddUserSuccessor(EntryId first, EntryId second, int count);
 
-    /// Calls visit(Successor) for the successors of an entry, at most `most` times, in ascending order (in
-    /// the order of the general file, where that does not ascend).
-    template <typename Visit>
-    void ForEachSuccessor(EntryId first, std::size_t most, Visit visit) const {
-        if (const SuccessorList* own = OwnList(first)) {
-            for (std::size_t i = 0; i < std::min(own->successors.size(), most); ++i)
-                visit(own->successors[i]);
-            return;
-        }
-        const auto shared = pairs->Of(first);
-        for (const GeneralSuccessor& successor : shared.first(std::min(shared.size(), most)))
-            visit(Successor{successor.entry, successor.frequency, 0});
+    /// All successors of an entry.
+    [[nodiscard]] Successors SuccessorsOf(EntryId first) const {
+        if (const SuccessorList* own = OwnList(first))
+            return {own->successors, own->ascending};
+        return {pairs->Of(first), general->Ascending() && pairs->AscendingOf(first)};
     }
     /// Number of successors that came from the general file.
     [[nodiscard]] int GeneralSuccessorCount(EntryId first) const;
@@ -126,6 +142,8 @@ class Vocabulary {
     /// How many of the added entries stand before a position.
     [[nodiscard]] std::size_t AddedBefore(std::size_t position) const;
     [[nodiscard]] std::size_t PositionOf(EntryId generalEntry) const;
+    /// The one search over the whole, which finds in disordered entries what it happens to come upon.
+    [[nodiscard]] Found FindInDisorder(TextView text) const;
     [[nodiscard]] const SuccessorList* OwnList(EntryId first) const;
     SuccessorList& MakeOwnList(EntryId first);
     [[nodiscard]] bool Untouched() const { return added.empty() && ownLists.empty() && pairs->Empty(); }

@@ -2,6 +2,7 @@
 
 #include "text/Splitter.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <limits>
@@ -10,7 +11,13 @@ namespace ondrilo {
 namespace {
 
 /// White space of the C library, wider than that of sentences.
-constexpr TextView kScanSpace = " \t\n\v\f\r";
+bool IsScanSpace(char c) {
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+TextView SkipScanSpace(TextView text) {
+    return {std::find_if_not(text.begin(), text.end(), IsScanSpace), text.end()};
+}
 
 bool IsDigit(char c) {
     return c >= '0' && c <= '9';
@@ -40,16 +47,17 @@ std::optional<TextView> LineReader::Next() {
 }
 
 std::optional<TextView> FieldScanner::Word(std::size_t limit) {
-    rest = TrimLeft(rest, kScanSpace);
+    rest = SkipScanSpace(rest);
     if (rest.empty())
         return std::nullopt;
-    const TextView word = rest.substr(0, std::min(rest.find_first_of(kScanSpace), limit));
+    const auto end = std::find_if(rest.begin(), rest.end(), IsScanSpace);
+    const TextView word = TextView(rest.begin(), end).substr(0, limit);
     rest.remove_prefix(word.size());
     return word;
 }
 
 std::optional<int> FieldScanner::Integer() {
-    rest = TrimLeft(rest, kScanSpace);
+    rest = SkipScanSpace(rest);
     TextView digits = rest;
     const bool negative = digits.starts_with('-');
     if (negative || digits.starts_with('+'))
@@ -69,12 +77,12 @@ std::optional<int> FieldScanner::Integer() {
 }
 
 std::optional<double> FieldScanner::Real() {
-    rest = TrimLeft(rest, kScanSpace);
+    rest = SkipScanSpace(rest);
     TextView number = rest;
     if (number.starts_with('+') && !number.starts_with("+-"))
         number.remove_prefix(1);
 
-    long double value = 0;
+    double value = 0;
     const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
     if (error == std::errc::invalid_argument)
         return std::nullopt;
@@ -82,15 +90,15 @@ std::optional<double> FieldScanner::Real() {
     rest.remove_prefix(static_cast<std::size_t>(end - rest.data()));
     if (error == std::errc::result_out_of_range) {
         const bool tiny = read.find("e-") != TextView::npos || read.find("E-") != TextView::npos;
-        value = tiny ? 0 : std::numeric_limits<long double>::infinity();
+        value = tiny ? 0 : std::numeric_limits<double>::infinity();
         if (read.starts_with('-'))
             value = -value;
     }
-    return static_cast<double>(value);
+    return value;
 }
 
 std::optional<TextView> FieldScanner::Tail() {
-    rest = TrimLeft(rest, kScanSpace);
+    rest = SkipScanSpace(rest);
     if (rest.empty())
         return std::nullopt;
     const TextView tail = rest.substr(0, rest.find('\n'));
