@@ -14,11 +14,12 @@ if(ONDRILO_FUZZ)
 endif()
 
 # ondrilo_library(NAME [DEPENDS ondrilo libraries...] [DESKTOP] [LIBRARIES outside libraries...])
-# Takes all sources of the calling folder. DESKTOP marks an adapter or widgets: only such a library may name
+# Takes all sources of the calling folder but a main.cpp, which belongs to a program. DESKTOP marks an adapter or widgets: only such a library may name
 # outside libraries or another desktop library.
 function(ondrilo_library name)
     cmake_parse_arguments(ARG "DESKTOP" "" "DEPENDS;LIBRARIES" ${ARGN})
     file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+    list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
     add_library(${name} STATIC ${sources})
     set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
     target_link_libraries(${name} PUBLIC ondrilo_options ${ARG_DEPENDS} ${ARG_LIBRARIES})
