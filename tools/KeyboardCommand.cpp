@@ -13,7 +13,7 @@ namespace {
 int DrawKeyboard(const Arguments& arguments) {
     const auto program = std::filesystem::read_symlink("/proc/self/exe").parent_path() / "ondrilo-draw";
     std::vector<std::string> words = arguments.Words();
-    words.insert(words.begin(), {program.string(), "keyboard"});
+    words.insert(words.begin(), program.string());
     std::vector<char*> pointers;
     for (auto& word : words)
         pointers.push_back(word.data());
