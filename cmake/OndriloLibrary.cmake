@@ -14,7 +14,8 @@ if(ONDRILO_FUZZ)
 endif()
 
 # ondrilo_library(NAME [DEPENDS ondrilo libraries...] [DESKTOP] [LIBRARIES outside libraries...])
-# Takes all sources of the calling folder but a main.cpp, which belongs to a program. DESKTOP marks an adapter or widgets: only such a library may name
+# Takes all sources of the calling folder but a main.cpp, which belongs to a program. DESKTOP marks an adapter
+# or widgets: only such a library may name
 # outside libraries or another desktop library.
 function(ondrilo_library name)
     cmake_parse_arguments(ARG "DESKTOP" "" "DEPENDS;LIBRARIES" ${ARGN})
