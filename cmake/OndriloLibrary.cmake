@@ -15,8 +15,7 @@ endif()
 
 # ondrilo_library(NAME [DEPENDS ondrilo libraries...] [DESKTOP] [LIBRARIES outside libraries...])
 # Takes all sources of the calling folder but a main.cpp, which belongs to a program. DESKTOP marks an adapter
-# or widgets: only such a library may name
-# outside libraries or another desktop library.
+# or widgets: only such a library may name outside libraries or another desktop library.
 function(ondrilo_library name)
     cmake_parse_arguments(ARG "DESKTOP" "" "DEPENDS;LIBRARIES" ${ARGN})
     file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
