@@ -226,10 +226,8 @@ void CMainFrame::OnMenuCommand(int number) {
         [this, number] {
             if (listener)
                 listener->OnMenuCommand(number);
-            if (number == command::About)
+            if (number == menu::About)
                 ShowAbout();
-            if (number == command::Quit)
-                close();
         },
         Qt::QueuedConnection);
 }
@@ -239,13 +237,13 @@ void CMainFrame::Edit(int number) {
     if (!editor)
         return;
     switch (number) {
-    case command::Undo:
+    case menu::Undo:
         return editor->undo();
-    case command::Cut:
+    case menu::Cut:
         return editor->cut();
-    case command::Copy:
+    case menu::Copy:
         return editor->copy();
-    case command::Paste:
+    case menu::Paste:
         return editor->paste();
     default:
         return;

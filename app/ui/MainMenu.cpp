@@ -1,5 +1,7 @@
 #include "app/ui/MainMenu.h"
 
+#include "app/MenuController.h"
+
 #include <algorithm>
 #include <array>
 #include <vector>
@@ -10,7 +12,7 @@ namespace {
 /// An entry with a number, or a submenu.
 struct Entry {
     const char* text;
-    int command = 0;
+    int number = 0;
     std::vector<Entry> entries = {};
 };
 
@@ -29,17 +31,17 @@ std::vector<Entry> MainMenu() {
                                                    {"Galerias de Pictogramas...", 32920},
                                                    {"Todos os Dados...", 32923},
                                                    {"Pasta de Pictogramas...", 32924}}),
-                              {"Desativar Menu", command::DisableMenu},
-                              {"Esconder Menu e Barras", command::HideChrome},
+                              {"Desativar Menu", menu::DisableMenu},
+                              {"Esconder Menu e Barras", menu::HideMenuAndBars},
                               {"Opções Gerais...", 32912},
-                              {"Sai&r", command::Quit}}),
-        Submenu("&Editar", {{"A&nular", command::Undo},
-                            {"Cor&tar", command::Cut},
-                            {"&Copiar", command::Copy},
-                            {"C&olar", command::Paste}}),
+                              {"Sai&r", menu::Quit}}),
+        Submenu("&Editar", {{"A&nular", menu::Undo},
+                            {"Cor&tar", menu::Cut},
+                            {"&Copiar", menu::Copy},
+                            {"C&olar", menu::Paste}}),
         Submenu("&Perfil",
                 {{"Novo Perfil...", 32913},
-                 {"Abrir Perfil...", 32914},
+                 {"Abrir Perfil...", menu::OpenProfile},
                  {"Remover Perfil...", 32915},
                  {"&Opções do Perfil...", 32911},
                  {"Copiar Opções de Outro Perfil...", 32910},
@@ -71,7 +73,7 @@ std::vector<Entry> MainMenu() {
              Submenu("Simuladores", {{"Simulador de Predição de Palavras...", 32940},
                                      {"Simulador de Predição de Texto...", 32948},
                                      {"Simulador de Predição de Pictogramas...", 32950}})}),
-        Submenu("Aj&uda", {{"&Acerca Tessivor...", command::About}}),
+        Submenu("Aj&uda", {{"&Acerca Tessivor...", menu::About}}),
     };
 }
 
@@ -88,8 +90,9 @@ const char* PromptOf(int number) {
 }
 
 bool IsBuilt(int number) {
-    constexpr std::array built = {command::DisableMenu, command::HideChrome, command::Copy,  command::Cut,
-                                  command::Paste,       command::Undo,       command::About, command::Quit};
+    constexpr std::array built = {menu::OpenProfile, menu::DisableMenu, menu::HideMenuAndBars,
+                                  menu::Copy,        menu::Cut,         menu::Paste,
+                                  menu::Undo,        menu::About,       menu::Quit};
     return std::find(built.begin(), built.end(), number) != built.end();
 }
 
@@ -100,19 +103,19 @@ void Fill(QMenu& menu, const std::vector<Entry>& entries, const std::function<vo
             continue;
         }
         auto* action = menu.addAction(entry.text);
-        action->setData(entry.command);
-        action->setObjectName(QString("command_%1").arg(entry.command));
-        action->setStatusTip(PromptOf(entry.command));
+        action->setData(entry.number);
+        action->setObjectName(QString("command_%1").arg(entry.number));
+        action->setStatusTip(PromptOf(entry.number));
         action->setMenuRole(QAction::NoRole);
-        action->setEnabled(IsBuilt(entry.command));
+        action->setEnabled(IsBuilt(entry.number));
         QObject::connect(action, &QAction::triggered, action,
-                         [chosen, number = entry.command] { chosen(number); });
+                         [chosen, number = entry.number] { chosen(number); });
     }
 }
 
 } // namespace
 
-void FillMainMenu(QMenuBar& bar, const std::function<void(int command)>& chosen) {
+void FillMainMenu(QMenuBar& bar, const std::function<void(int number)>& chosen) {
     for (const auto& menu : MainMenu())
         Fill(*bar.addMenu(menu.text), menu.entries, chosen);
 }

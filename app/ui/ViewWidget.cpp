@@ -52,7 +52,7 @@ void ViewWidget::PaintPicture(QPainter& painter) {
 }
 
 void ViewWidget::resizeEvent(QResizeEvent*) {
-    emit resized();
+    Q_EMIT resized();
 }
 
 } // namespace ondrilo

@@ -17,7 +17,7 @@ class ViewWidget : public QWidget {
     explicit ViewWidget(QWidget* parent);
     void SetBackground(const std::optional<WindowBackground>& background);
 
-  signals:
+  Q_SIGNALS:
     void resized();
 
   protected:

@@ -1,0 +1,100 @@
+#include "app/CTessivorApp.h"
+#include "app/CTessivorView.h"
+#include "app/ui/QtDialogs.h"
+#include "app/ui/QtSessionWindows.h"
+#include "app/ui/QuitSignals.h"
+#include "platform/linux/CanberraSoundPlayer.h"
+#include "platform/linux/FlockInstanceLock.h"
+#include "platform/linux/PosixProgramStarter.h"
+#include "platform/qt/QtClock.h"
+#include "platform/qt/QtDesktop.h"
+#include "platform/qt/QtMessageBoxes.h"
+#include "platform/qt/QtQueuePump.h"
+#include "platform/qt/QtTextMeasure.h"
+#include "platform/qt/QtTimerService.h"
+#include "platform/x11/X11KeyOutput.h"
+
+#include <QApplication>
+
+#include <clocale>
+#include <cstdlib>
+
+namespace ondrilo {
+namespace {
+
+UserFolders FoldersOfThisPerson() {
+    return UserFolders::FromEnvironment([](const std::string& name) {
+        const char* value = std::getenv(name.c_str());
+        return std::string(value ? value : "");
+    });
+}
+
+/// One run of the program: which adapter serves which interface. Everything ends in the reverse order of its
+/// start.
+int Run(const std::filesystem::path& dataFolder, QtDesktop& desktop, QtMessageBoxes& boxes) {
+    const DataFolder data(dataFolder);
+    MessageQueue queue;
+    QtClock clock;
+    QtTimerService timers(clock);
+    X11KeyOutput keys;
+    CanberraSoundPlayer sounds([] { QApplication::beep(); });
+    PosixProgramStarter programs;
+    QtTextMeasure textMeasure;
+    QtPictures pictures(data);
+    QtDialogs dialogs(desktop);
+    CMainFrame frame(queue, desktop, keys);
+    QtSessionWindows windows({frame, queue, timers, sounds, keys, data, pictures});
+    NullServices services;
+
+    CTessivorView view({.dataFolder = data,
+                        .queue = queue,
+                        .clock = clock,
+                        .timers = timers,
+                        .desktop = desktop,
+                        .keys = keys,
+                        .boxes = boxes,
+                        .dialogs = dialogs,
+                        .sounds = sounds,
+                        .programs = programs,
+                        .textMeasure = textMeasure,
+                        .pictureMeasure = pictures,
+                        .frame = frame,
+                        .windows = windows},
+                       services.All());
+    const QtQueuePump pump(queue, [&view](const MessageEvent& event) { view.Handle(event); });
+    const QuitSignals quitSignals([&frame] { frame.close(); });
+    view.OnInitialUpdate();
+    return QApplication::exec();
+}
+
+int Main(int count, char** words) {
+    // Keys and text must be there for assistive programs that start after this one, too.
+    qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
+    const QApplication application(count, words);
+    // Numbers in files have a point, whatever the language.
+    std::setlocale(LC_NUMERIC, "C");
+    QApplication::setApplicationName("ondrilo");
+    QApplication::setDesktopFileName("ondrilo");
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    QtDesktop desktop;
+    QtMessageBoxes boxes(desktop);
+    FlockInstanceLock lock;
+    CTessivorApp app(FoldersOfThisPerson(), lock, boxes);
+    switch (app.InitInstance()) {
+    case CTessivorApp::Start::AlreadyRunning:
+        return EXIT_SUCCESS;
+    case CTessivorApp::Start::Failed:
+        return EXIT_FAILURE;
+    case CTessivorApp::Start::Ready:
+        break;
+    }
+    return Run(app.DataFolder(), desktop, boxes);
+}
+
+} // namespace
+} // namespace ondrilo
+
+int main(int count, char** words) {
+    return ondrilo::Main(count, words);
+}
