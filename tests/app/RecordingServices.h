@@ -1,0 +1,132 @@
+#pragma once
+
+#include "app/SessionServices.h"
+#include "tests/support/Journal.h"
+
+#include <map>
+
+namespace ondrilo {
+
+/// Services that note what is asked of them.
+struct RecordingServices {
+    explicit RecordingServices(Journal& journal)
+        : log(journal), metrics(), speech(journal), agent(journal), gps(journal), bluetooth(journal),
+          cooperation(journal), userRecord(journal), scanning(journal) {}
+
+    struct Noting {
+        explicit Noting(Journal& journal) : journal(journal) {}
+        Journal& journal;
+    };
+    struct Log : EventLog, Noting {
+        using Noting::Noting;
+        [[nodiscard]] bool IsOpen() const override { return open; }
+        void Start() override {
+            open = true;
+            journal.Note("start log");
+        }
+        void End() override {
+            open = false;
+            journal.Note("end log");
+        }
+        void Write(const LogEvent& event) override { written.push_back(event); }
+        void AddFinalText(TextView text) override { finalTexts.emplace_back(text); }
+        bool open = false;
+        std::vector<LogEvent> written;
+        std::vector<Text> finalTexts;
+    };
+    struct Metrics : MetricsSink {
+        void Count(Metric metric, int amount) override { counts[metric] += amount; }
+        void Completed(const Completion& completion) override { completions.push_back(completion); }
+        std::map<Metric, int> counts;
+        std::vector<Completion> completions;
+    };
+    struct Speech : SpeechService, Noting {
+        using Noting::Noting;
+        bool SelectVoice(TextView name) override {
+            journal.Note(Text("voice ").append(name));
+            return true;
+        }
+        bool Speak(TextView text) override {
+            spoken.emplace_back(text);
+            return true;
+        }
+        void Release() override { journal.Note("release voice"); }
+        std::vector<Text> spoken;
+    };
+    struct Character : Agent, Noting {
+        using Noting::Noting;
+        bool Start(TextView name, Point) override {
+            journal.Note(Text("agent ").append(name));
+            return loads;
+        }
+        void Play(TextView animation) override { played.emplace_back(animation); }
+        void Stop() override { journal.Note("agent goes"); }
+        bool loads = true;
+        std::vector<Text> played;
+    };
+    struct Gps : GpsSource, Noting {
+        using Noting::Noting;
+        void Start(TextView port) override { journal.Note(Text("gps ").append(port)); }
+        void Stop() override { journal.Note("stop gps"); }
+        [[nodiscard]] bool IsActive() const override { return active; }
+        bool active = false;
+    };
+    struct Bluetooth : BluetoothSource, Noting {
+        using Noting::Noting;
+        void Start() override { journal.Note("bluetooth"); }
+        void Stop() override { journal.Note("stop bluetooth"); }
+    };
+    struct Context : ContextAdapter {
+        Text GetStartProfile() override { return start; }
+        std::optional<Text> DecideProfile() override {
+            ++asked;
+            return next;
+        }
+        Text start = "generico";
+        std::optional<Text> next;
+        int asked = 0;
+    };
+    struct Cooperation : CooperativeSession, Noting {
+        using Noting::Noting;
+        [[nodiscard]] bool IsUp() const override { return up; }
+        [[nodiscard]] CooperativeRole Role() const override { return role; }
+        void End() override {
+            up = false;
+            journal.Note("end cooperation");
+        }
+        bool up = false;
+        CooperativeRole role = CooperativeRole::Client;
+    };
+    struct Record : UserRecord, Noting {
+        using Noting::Noting;
+        void Open() override { journal.Note("open record"); }
+        void Close() override { journal.Note("close record"); }
+        void MenuSelected(int command) override { journal.Note("menu " + std::to_string(command)); }
+    };
+    struct Scanning : ScanningSwitches, Noting {
+        using Noting::Noting;
+        void SwitchDown(int number) override { journal.Note("switch down " + std::to_string(number)); }
+        void SwitchUp(int number) override { journal.Note("switch up " + std::to_string(number)); }
+        [[nodiscard]] Text LitDescription() const override { return "linha um"; }
+    };
+
+    [[nodiscard]] SessionServices All() {
+        return {log,         metrics,    speech,   agent,           gps,       bluetooth, context,
+                cooperation, userRecord, scanning, externalTargets, pictograms};
+    }
+
+    Log log;
+    Metrics metrics;
+    Speech speech;
+    Character agent;
+    Gps gps;
+    Bluetooth bluetooth;
+    Context context;
+    Cooperation cooperation;
+    Record userRecord;
+    Scanning scanning;
+    ExternalTargets externalTargets;
+    PictogramWriter pictograms;
+};
+
+} // namespace ondrilo

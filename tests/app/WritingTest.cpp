@@ -1,0 +1,208 @@
+#include "tests/app/RunningSystem.h"
+
+namespace ondrilo {
+namespace {
+
+constexpr COnScreenKeyIdentifier kFirstWordKey{0, 0, 0};
+constexpr COnScreenKeyIdentifier kSecondWordKey{0, 0, 1};
+constexpr COnScreenKeyIdentifier kSentenceKey{0, 0, 2};
+constexpr COnScreenKeyIdentifier kThirdWordKey{0, 0, 3};
+
+TEST_F(RunningSystem, APersonWritesASentenceWithClicksPredictionsAndHotKeys) {
+    StartWriting();
+    EXPECT_EQ(Labels(0), Texts("F1: olá"_w, "F2: tudo", "", ""));
+
+    Click("Shift");
+    Click("o");
+    Click("l");
+    EXPECT_EQ(Written(), "Ol");
+    Pause();
+    EXPECT_EQ(Labels(0), Texts("F1: olá"_w, "F2: ola", "", ""));
+
+    Click(kFirstWordKey);
+    EXPECT_EQ(Written(), "Olá "_w);
+    Press(vk::Backspace);
+    Click(".");
+    Click("Space");
+    Type("Tu");
+    Pause();
+    Press(vk::F1);
+    EXPECT_EQ(Written(), "Olá. Tudo "_w);
+    Click("b");
+    Pause();
+    EXPECT_EQ(Labels(0), Texts("F1: bem", "F2: bom", "", ""));
+    Press(vk::F1);
+    EXPECT_EQ(Written(), "Olá. Tudo bem "_w);
+
+    frame.listener->OnDestroy();
+    EXPECT_EQ(folder.Read("generico.pal"), "___ 1\nbem 1\nolá 1\ntudo 1\n"_w);
+    EXPECT_EQ(folder.Read("generico.par"), "___ olá 1\nolá tudo 1\ntudo bem 1\n"_w);
+    EXPECT_EQ(folder.Read("generico.frs"), "___ 1\nolá. 1\n"_w);
+}
+
+TEST_F(RunningSystem, HotKeysFollowTheKeysAcrossTheScreenWhateverTheirKind) {
+    folder.Write("geral.frs", "___ 1\nbom|dia. 3\n");
+    folder.Write("geral.paf", "___ bom|dia. 3\n");
+    folder.Write("geral.par", "___ bem 9\n___ olá 5\n___ tudo 2\n"_w);
+    StartWriting();
+    EXPECT_EQ(Labels(0), Texts("F1: bem", "F2: olá"_w, "F3: bom dia.", "F4: tudo"));
+    Press(vk::F1 + 2);
+    EXPECT_EQ(Written(), "bom dia. ");
+}
+
+TEST_F(RunningSystem, TheTenthKeyGetsNoHotKey) {
+    Text keys = "LINHA L\nGRUPO G\n", words = "___ 1\n", pairs;
+    for (char c = 'a'; c < 'k'; ++c) {
+        keys += "TECLA TECLA_PREDICAO\n";
+        words += Text("p") + c + " 1\n";
+        pairs += Text("___ p") + c + " " + std::to_string('z' - c) + "\n";
+    }
+    folder.Write("Casa.tec", keys);
+    folder.Write("geral.pal", words);
+    folder.Write("geral.par", pairs);
+    StartWriting();
+    const auto labels = Labels(0);
+    EXPECT_EQ(labels[8], "F9: pi");
+    EXPECT_EQ(labels[9], "pj");
+}
+
+TEST_F(RunningSystem, PagesOfPredictionsGoRoundAndTheLastOneIsMarked) {
+    folder.Write("geral.par", "___ bem 9\n___ bom 8\n___ estou 7\n___ olá 5\n___ tudo 2\n"_w);
+    StartWriting("NUMERO_MAXIMO_PALAVRAS_PREDITAS 2\n");
+    EXPECT_EQ(Labels(0), Texts("F1: bem", "F2: bom", "", ""));
+    const Text more(Key({2, 0, 1}).data.output);
+    Click(more);
+    EXPECT_EQ(Labels(0), Texts("F1: estou", "F2: olá"_w, "", ""));
+    EXPECT_FALSE(Key(kFirstWordKey).lastPageMark);
+    Click(more);
+    EXPECT_EQ(Labels(0), Texts("F1: tudo", "", "", ""));
+    EXPECT_TRUE(Key(kFirstWordKey).lastPageMark);
+
+    Click(kFirstWordKey);
+    EXPECT_EQ(Written(), "tudo ") << "a key stands for the word of its page";
+    Press(vk::Backspace);
+    for (int i = 0; i < 4; ++i)
+        Press(vk::Backspace);
+    Pause();
+    for (int i = 0; i < 3; ++i)
+        Click(more);
+    EXPECT_EQ(Labels(0), Texts("F1: bem", "F2: bom", "", ""));
+    EXPECT_FALSE(Key(kFirstWordKey).lastPageMark);
+
+    Click(more);
+    frame.listener->OnDraw();
+    EXPECT_EQ(Labels(0), Texts("F1: bem", "F2: bom", "", "")) << "exposure goes back to the first page";
+}
+
+TEST_F(RunningSystem, AKeyThatTheProfileLeavesUnusedWritesNothing) {
+    folder.Write("geral.par", "___ bem 9\n___ bom 8\n"_w);
+    StartWriting("NUMERO_MAXIMO_PALAVRAS_PREDITAS 1\n");
+    Click(kSecondWordKey);
+    Click(kThirdWordKey);
+    EXPECT_EQ(Written(), "");
+}
+
+TEST_F(RunningSystem, CapitalsOnTheKeysDoNotReachTheText) {
+    StartWriting("PALAVRAS_PREDITAS_EM_MAIUSCULAS 1\n");
+    EXPECT_EQ(Labels(0)[1], "F2: TUDO");
+    Click(kSecondWordKey);
+    EXPECT_EQ(Written(), "tudo ");
+}
+
+TEST_F(RunningSystem, WithoutHotKeysNoKeyIsBlockedOrDispatched) {
+    StartWriting("TECLAS_COMPLETAR 0\n");
+    EXPECT_EQ(Labels(0)[0], ": olá"_w);
+    Type("ab");
+    Press(vk::Backspace);
+    EXPECT_EQ(Written(), "a");
+    Press('0' + 1);
+    EXPECT_EQ(Written(), "a1");
+}
+
+TEST_F(RunningSystem, ShiftLastsForOneKeyAndASecondPressCancelsIt) {
+    StartWriting();
+    const auto shift = KeyOf("Shift");
+    Click(shift);
+    EXPECT_TRUE(Key(shift).highlighted);
+    Click("o");
+    EXPECT_FALSE(Key(shift).highlighted);
+    Click("l");
+    Click(shift);
+    Click(shift);
+    EXPECT_FALSE(Key(shift).highlighted);
+    Click("o");
+    EXPECT_EQ(Written(), "Olo");
+    Click(shift);
+    frame.listener->OnDestroy();
+    EXPECT_EQ(keys.events.back(), "up 16") << "the end of the session releases it";
+}
+
+TEST_F(RunningSystem, CapsLockKeysFollowItsState) {
+    keys.capsLock = true;
+    StartWriting();
+    const auto caps = KeyOf("CapsLock");
+    EXPECT_TRUE(Key(caps).highlighted);
+    Press(vk::CapsLock);
+    EXPECT_FALSE(Key(caps).highlighted);
+}
+
+TEST_F(RunningSystem, ACompletionTellsWhichKeysAreTheSystems) {
+    services.log.open = true;
+    StartWriting();
+    services.log.open = true;
+    Type("tu");
+    Pause();
+    services.metrics.counts.clear();
+    Click(kFirstWordKey);
+    EXPECT_EQ(services.metrics.counts[Metric::SystemKey], 3) << "d, o and the blank";
+    EXPECT_EQ(services.metrics.counts[Metric::KeyPress], 0);
+    Press('A');
+    EXPECT_EQ(services.metrics.counts[Metric::KeyPress], 1);
+    ASSERT_EQ(services.metrics.completions.size(), 1U);
+    EXPECT_EQ(services.metrics.completions[0],
+              (Completion{Completion::Kind::Word, Completion::Source::TextList, 0, 2}));
+}
+
+TEST_F(RunningSystem, AnAbbreviationIsReplacedByItsExpansion) {
+    folder.Write("generico.abr", "bd bom dia\n");
+    StartWriting("OUVIR_ANTES_COMPLETAR 1\nVER_ANTES_COMPLETAR 1\n");
+    Type("bd");
+    Press(vk::Tab);
+    EXPECT_EQ(services.speech.spoken, Texts("bom dia"));
+    EXPECT_EQ(windows.preview.text, "bom dia");
+    EXPECT_EQ(Written(), "bd");
+    Press(vk::Tab);
+    EXPECT_EQ(Written(), "bom dia ");
+    Press(vk::Tab);
+    EXPECT_EQ(Written(), "bom dia ") << "there is no abbreviation after the blank";
+}
+
+TEST_F(RunningSystem, LearningLinksTheFirstWordAfterABreakToTheLastBefore) {
+    StartWriting();
+    Type("tudo ");
+    Click("[Limpar-Area-Trabalho]");
+    EXPECT_EQ(Written(), "");
+    EXPECT_EQ(services.log.finalTexts, Texts("tudo "));
+    Type("bem ");
+    frame.listener->OnDestroy();
+    EXPECT_EQ(folder.Read("generico.par"), "___ bem 1\n___ tudo 1\ntudo bem 1\n");
+}
+
+TEST_F(RunningSystem, NothingIsLearnedWithoutAdaptation) {
+    StartWriting("ADAPTACAO_UTILIZADOR 0\nTECLA_SINTESE_FRASE F12\n");
+    Type("tudo bem. Bom");
+    Press(vk::F1 + 11);
+    EXPECT_EQ(services.speech.spoken, Texts("Bom"));
+    EXPECT_FALSE(view->Profiles().Active().dictionary.UserWordsChanged());
+    EXPECT_FALSE(view->Profiles().Active().dictionary.UserSentencesChanged());
+}
+
+TEST_F(RunningSystem, PredictionsLeaveOutWhatTheProfileDoesNotWant) {
+    folder.Write("geral.par", "___ bem 9\n___ bom 8\n___ estou 7\n"_w);
+    StartWriting("LETRAS_NAO_PRETENDIDAS u\nSEQUENCIAS_LETRAS_NAO_PRETENDIDAS xx,om\n");
+    EXPECT_EQ(Labels(0), Texts("F1: bem", "", "", ""));
+    EXPECT_EQ(Key(kSentenceKey).data.label, "");
+}
+
+} // namespace
+} // namespace ondrilo
