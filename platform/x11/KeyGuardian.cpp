@@ -46,7 +46,7 @@ void Pause() {
 }
 
 void KeepOnly(int first, int second) {
-    const auto [low, high] = std::minmax(static_cast<unsigned>(first), static_cast<unsigned>(second));
+    const auto [low, high] = std::minmax({static_cast<unsigned>(first), static_cast<unsigned>(second)});
     if (low > 0)
         close_range(0, low - 1, 0);
     if (high > low + 1)

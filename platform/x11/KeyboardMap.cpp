@@ -189,7 +189,7 @@ std::optional<Keycode> KeyboardMap::ModifierKey(unsigned bits) const {
     return static_cast<Keycode>(found - modifiers.begin());
 }
 
-/// The fewest modifiers, of Shift and AltGr, that give the level while the modifiers of `locked` are on.
+/// The fewest modifiers, of Shift, AltGr and Num Lock, that give the level while those of `locked` are on.
 std::optional<unsigned> KeyboardMap::ModifiersFor(Keycode keycode, unsigned level, unsigned locked) const {
     constexpr std::size_t kMostMasks = 32;
     xkb_mod_mask_t masks[kMostMasks];
@@ -200,7 +200,7 @@ std::optional<unsigned> KeyboardMap::ModifiersFor(Keycode keycode, unsigned leve
         if ((masks[i] & locked) != locked)
             continue;
         const unsigned bits = masks[i] & ~locked;
-        const bool isPressable = (bits & ~(kShiftBit | levelThreeBit)) == 0;
+        const bool isPressable = (bits & ~(kShiftBit | levelThreeBit | numLockBit)) == 0;
         if (isPressable && (!best || std::popcount(bits) < std::popcount(*best)))
             best = bits;
     }

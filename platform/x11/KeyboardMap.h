@@ -33,6 +33,7 @@ class KeyboardMap {
     /// The key that writes the character at once; a dead key never does.
     [[nodiscard]] std::optional<KeyStroke> StrokeOf(char32_t character) const;
     [[nodiscard]] std::optional<LayoutKey> KeyOf(char c) const;
+    /// The numeric pad may need Num Lock among the modifiers, where it is not on.
     [[nodiscard]] std::optional<KeyStroke> StrokeOfCode(int code, bool isNumLockOn) const;
     [[nodiscard]] Text NameOf(int code) const;
 

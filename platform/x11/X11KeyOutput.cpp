@@ -54,6 +54,8 @@ class X11KeyOutput::Implementation {
     void Release(Keycode keycode);
     [[nodiscard]] unsigned HeldModifiers() const;
     std::vector<Keycode> PressModifiers(unsigned wanted);
+    void PressStroke(const KeyStroke& stroke);
+    void LockNumLock(bool locked);
     void LiftPersonsModifiers(const LockState& state);
     void PutBackPersonsModifiers();
     [[nodiscard]] bool HoldsWritingKey() const;
@@ -181,6 +183,25 @@ std::vector<Keycode> X11KeyOutput::Implementation::PressModifiers(unsigned wante
     return pressed;
 }
 
+/// Presses the key with its modifiers, which are released at once; the key stays down.
+void X11KeyOutput::Implementation::PressStroke(const KeyStroke& stroke) {
+    const bool needsNumLock = (stroke.modifiers & map->NumLockBit()) != 0;
+    const auto pressed = PressModifiers(stroke.modifiers & ~map->NumLockBit());
+    if (needsNumLock)
+        LockNumLock(true);
+    Press(stroke.keycode);
+    if (needsNumLock)
+        LockNumLock(false);
+    std::for_each(pressed.rbegin(), pressed.rend(), [this](Keycode keycode) { Release(keycode); });
+}
+
+/// Without a press of its key, which would be told to everybody as the person's wish.
+void X11KeyOutput::Implementation::LockNumLock(bool locked) {
+    const auto bit = static_cast<std::uint8_t>(map->NumLockBit());
+    const auto value = static_cast<std::uint8_t>(locked ? bit : 0);
+    xcb_xkb_latch_lock_state(connection.Get(), XCB_XKB_ID_USE_CORE_KBD, bit, value, 0, 0, 0, 0, 0);
+}
+
 void X11KeyOutput::Implementation::LiftPersonsModifiers(const LockState& state) {
     if ((state.base & ~HeldModifiers()) == 0)
         return;
@@ -223,10 +244,8 @@ void X11KeyOutput::Implementation::Type(char c) {
     if (!stroke)
         return;
     LiftPersonsModifiers(state);
-    const auto pressed = PressModifiers(stroke->modifiers);
-    Press(stroke->keycode);
+    PressStroke(*stroke);
     Release(stroke->keycode);
-    std::for_each(pressed.rbegin(), pressed.rend(), [this](Keycode keycode) { Release(keycode); });
     if (!HoldsWritingKey())
         PutBackPersonsModifiers();
     lastTyped = std::chrono::steady_clock::now();
@@ -247,9 +266,7 @@ void X11KeyOutput::Implementation::Down(int code) {
         return;
     }
     LiftPersonsModifiers(state);
-    const auto pressed = PressModifiers(stroke->modifiers);
-    Press(stroke->keycode);
-    std::for_each(pressed.rbegin(), pressed.rend(), [this](Keycode keycode) { Release(keycode); });
+    PressStroke(*stroke);
     lastTyped = std::chrono::steady_clock::now();
 }
 

@@ -1,0 +1,110 @@
+#include "Support.h"
+
+#include "platform/x11/PersonsKeys.h"
+#include "platform/x11/X11Connection.h"
+
+#include <xcb/xinput.h>
+#include <xcb/xtest.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace ondrilo {
+
+ChildProcess::ChildProcess(const std::vector<std::string>& command) {
+    std::vector<char*> arguments;
+    for (const auto& argument : command)
+        arguments.push_back(const_cast<char*>(argument.c_str()));
+    arguments.push_back(nullptr);
+    if (posix_spawnp(&process, arguments[0], nullptr, nullptr, arguments.data(), environ) != 0)
+        process = -1;
+}
+
+void ChildProcess::Kill(int signal) {
+    if (process <= 0)
+        return;
+    kill(process, signal);
+    waitpid(process, nullptr, 0);
+    process = -1;
+}
+
+std::vector<std::string> Ourselves(const std::vector<std::string>& arguments) {
+    std::vector<std::string> command{"/proc/self/exe"};
+    command.insert(command.end(), arguments.begin(), arguments.end());
+    return command;
+}
+
+void SetLayout(const std::string& layout) {
+    const auto command = "setxkbmap -layout " + layout;
+    if (std::system(command.c_str()) != 0)
+        std::abort();
+}
+
+class ServerKeyboard::Implementation {
+  public:
+    X11Connection connection;
+    std::uint8_t personsDevice = 0;
+
+    Implementation() {
+        const PersonsKeys ready(connection); // has agreed on the version of the input extension
+        const auto cookie = xcb_input_xi_query_device(connection.Get(), XCB_INPUT_DEVICE_ALL);
+        const auto reply = Owned(xcb_input_xi_query_device_reply(connection.Get(), cookie, nullptr));
+        for (auto device = xcb_input_xi_query_device_infos_iterator(reply.get()); device.rem > 0;
+             xcb_input_xi_device_info_next(&device)) {
+            const std::string name(xcb_input_xi_device_info_name(device.data), device.data->name_len);
+            if (device.data->type == XCB_INPUT_DEVICE_TYPE_SLAVE_KEYBOARD &&
+                name.find("XTEST") == std::string::npos)
+                personsDevice = static_cast<std::uint8_t>(device.data->deviceid);
+        }
+    }
+    void Send(int event, int keycode) const {
+        const auto first = xcb_get_extension_data(connection.Get(), &xcb_input_id)->first_event;
+        xcb_test_fake_input(connection.Get(), static_cast<std::uint8_t>(first + event),
+                            static_cast<std::uint8_t>(keycode), XCB_CURRENT_TIME, XCB_NONE, 0, 0,
+                            personsDevice);
+        connection.Synchronize();
+    }
+};
+
+ServerKeyboard::ServerKeyboard() : implementation(std::make_unique<Implementation>()) {
+}
+
+ServerKeyboard::~ServerKeyboard() = default;
+
+std::vector<int> ServerKeyboard::Down() const {
+    auto* connection = implementation->connection.Get();
+    const auto reply = Owned(xcb_query_keymap_reply(connection, xcb_query_keymap(connection), nullptr));
+    std::vector<int> down;
+    for (int keycode = 0; keycode < 256; ++keycode)
+        if (reply->keys[keycode / 8] >> (keycode % 8) & 1)
+            down.push_back(keycode);
+    return down;
+}
+
+std::vector<std::uint32_t> ServerKeyboard::Symbols() const {
+    auto* connection = implementation->connection.Get();
+    constexpr std::uint8_t kFirst = 8;
+    constexpr std::uint8_t kCount = 248;
+    const auto cookie = xcb_get_keyboard_mapping(connection, kFirst, kCount);
+    const auto reply = Owned(xcb_get_keyboard_mapping_reply(connection, cookie, nullptr));
+    const auto* symbols = xcb_get_keyboard_mapping_keysyms(reply.get());
+    return {symbols, symbols + xcb_get_keyboard_mapping_keysyms_length(reply.get())};
+}
+
+void ServerKeyboard::PersonPresses(int keycode) const {
+    implementation->Send(XCB_INPUT_DEVICE_KEY_PRESS, keycode);
+}
+
+void ServerKeyboard::PersonReleases(int keycode) const {
+    implementation->Send(XCB_INPUT_DEVICE_KEY_RELEASE, keycode);
+}
+
+void ServerKeyboard::PersonTaps(int keycode) const {
+    PersonPresses(keycode);
+    PersonReleases(keycode);
+}
+
+} // namespace ondrilo

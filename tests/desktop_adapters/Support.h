@@ -1,0 +1,63 @@
+#pragma once
+
+#include "platform/Keyboard.h"
+#include "text/Text.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <sys/types.h>
+#include <vector>
+
+namespace ondrilo {
+
+/// Runs the event loop until the condition holds; false if it does not within some seconds.
+[[nodiscard]] bool Eventually(const std::function<bool()>& condition);
+/// Runs the event loop for a while.
+void PassTime(int milliseconds);
+
+/// A program that runs until the end of the test.
+class ChildProcess {
+  public:
+    explicit ChildProcess(const std::vector<std::string>& command);
+    ChildProcess(const ChildProcess&) = delete;
+    ChildProcess& operator=(const ChildProcess&) = delete;
+    ~ChildProcess() { Kill(); }
+    /// Sends the signal and waits for the end; SIGKILL without an argument.
+    void Kill(int signal = 9);
+
+  private:
+    pid_t process = -1;
+};
+
+/// The roles that this test program plays when it is started again by one of its tests.
+inline constexpr auto kHoldShift = "--hold-shift"; ///< lends spare keycodes, presses Shift and stays
+inline constexpr auto kHoldLock = "--hold-lock";   ///< takes the lock of the file that follows and stays
+/// This program, in that role.
+[[nodiscard]] std::vector<std::string> Ourselves(const std::vector<std::string>& arguments);
+
+/// Sets the X server's layout.
+void SetLayout(const std::string& layout);
+
+/// What a server knows of its keyboard, over a connection of its own.
+class ServerKeyboard {
+  public:
+    ServerKeyboard();
+    ~ServerKeyboard();
+    /// Keycodes that are down on the one keyboard that programs see.
+    [[nodiscard]] std::vector<int> Down() const;
+    /// All key symbols of all keycodes.
+    [[nodiscard]] std::vector<std::uint32_t> Symbols() const;
+    /// A key of the person's own keyboard, not one that a program types.
+    void PersonPresses(int keycode) const;
+    void PersonReleases(int keycode) const;
+    void PersonTaps(int keycode) const;
+
+    static constexpr int kShift = 50, kA = 38, kB = 56; ///< keycodes that the layouts of the tests share
+
+  private:
+    class Implementation;
+    std::unique_ptr<Implementation> implementation;
+};
+
+} // namespace ondrilo

@@ -1,0 +1,220 @@
+#include "Support.h"
+#include "platform/qt/QtConversion.h"
+#include "platform/qt/QtDesktop.h"
+#include "platform/x11/X11KeyOutput.h"
+#include "tests/support/TemporaryFolder.h"
+
+#include <QPlainTextEdit>
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+namespace ondrilo {
+namespace {
+
+constexpr TextView kSentence = "comunicações É ç «x» € Ç à ~ ^ [1] {2} \"3\" ü º @"_w;
+
+/// Types into a text box of ours, on the real server.
+class Typing : public testing::Test {
+  protected:
+    Typing() {
+        SetLayout("us");
+        box.resize(600, 300);
+        box.show();
+        box.activateWindow();
+        hasFocus = Eventually([this] { return box.hasFocus(); });
+    }
+    ~Typing() override { EXPECT_EQ(server.Down(), std::vector<int>{}) << "a key stayed down"; }
+
+    static void Type(KeyOutput& keys, TextView text) {
+        for (const char c : text)
+            keys.TypeCharacter(c);
+    }
+    static void Tap(KeyOutput& keys, int code) {
+        keys.KeyDown(code);
+        keys.KeyUp(code);
+    }
+    [[nodiscard]] Text Written() const { return FromQString(box.toPlainText()); }
+    void ExpectWritten(TextView text) {
+        EXPECT_TRUE(Eventually([&] { return Written() == text; })) << ToUtf8(Written());
+        box.clear();
+    }
+
+    ServerKeyboard server;
+    QPlainTextEdit box;
+    bool hasFocus = false;
+};
+
+TEST_F(Typing, NothingIsLostOrReorderedAtFullSpeedOnAnyLayout) {
+    ASSERT_TRUE(hasFocus);
+    for (const char* layout : {"pt", "us", "fr", "us,pt"}) {
+        SCOPED_TRACE(layout);
+        SetLayout(layout);
+        X11KeyOutput keys;
+        Text all;
+        for (int i = 0; i < 10; ++i) {
+            Type(keys, kSentence);
+            Type(keys, "\n");
+            all += Text(kSentence) + "\n";
+        }
+        ExpectWritten(all);
+    }
+}
+
+TEST_F(Typing, EveryCharacterOfTheCodePageCanBeWritten) {
+    ASSERT_TRUE(hasFocus);
+    SetLayout("pt");
+    X11KeyOutput keys;
+    Text all;
+    for (int byte = ' '; byte < 256; ++byte)
+        if (const char32_t point = CodePointOf(static_cast<char>(byte)); point < 0x7F || point > 0xAD)
+            all += static_cast<char>(byte);
+    // A box of ours sees the keyboard's map as it is when the handler returns; other programs keep up
+    // meanwhile.
+    for (const char c : all) {
+        keys.TypeCharacter(c);
+        PassTime(1);
+    }
+    ExpectWritten(all);
+}
+
+TEST_F(Typing, ATerminalReceivesAccentsUnderBothLayouts) {
+    QtDesktop desktop;
+    for (const char* layout : {"pt", "us"}) {
+        SCOPED_TRACE(layout);
+        SetLayout(layout);
+        const TemporaryFolder folder;
+        const std::string title = std::string("terminal ") + layout;
+        const auto file = (folder.Path() / "written").string();
+        const ChildProcess terminal(
+            {"env", "LC_ALL=C.UTF-8", "xterm", "-u8", "-T", title, "-e", "sh", "-c", "cat >\"$0\"", file});
+        ASSERT_TRUE(Eventually([&] { return desktop.TitleOf(desktop.ForegroundWindow()) == title; }));
+        ASSERT_TRUE(Eventually([&] { return std::filesystem::exists(file); }));
+        X11KeyOutput keys;
+        Type(keys, kSentence);
+        Tap(keys, vk::Enter);
+        EXPECT_TRUE(Eventually([&] { return folder.Read("written") == ToUtf8(kSentence) + "\n"; }))
+            << folder.Read("written");
+    }
+}
+
+TEST_F(Typing, OurLatchedShiftAndCapsLockActOnLettersWithAndWithoutAccents) {
+    ASSERT_TRUE(hasFocus);
+    SetLayout("pt");
+    X11KeyOutput keys;
+    keys.KeyDown(vk::Shift);
+    Type(keys, "aéç"_w);
+    keys.KeyUp(vk::Shift);
+    Type(keys, "aéç"_w);
+    EXPECT_FALSE(keys.IsCapsLockOn());
+    Tap(keys, vk::CapsLock);
+    EXPECT_TRUE(keys.IsCapsLockOn());
+    Type(keys, "aéçB1"_w);
+    Tap(keys, vk::CapsLock);
+    EXPECT_FALSE(keys.IsCapsLockOn());
+    ExpectWritten("AÉÇaéçAÉÇb1"_w);
+}
+
+TEST_F(Typing, AShiftThatThePersonHoldsIsLiftedAndPutBack) {
+    ASSERT_TRUE(hasFocus);
+    X11KeyOutput keys;
+    server.PersonPresses(ServerKeyboard::kShift);
+    Type(keys, "aé"_w);
+    EXPECT_EQ(server.Down(), std::vector<int>{ServerKeyboard::kShift});
+    server.PersonTaps(ServerKeyboard::kB);
+    server.PersonReleases(ServerKeyboard::kShift);
+    EXPECT_EQ(server.Down(), std::vector<int>{});
+    // The device through which we type still believes the put-back Shift to be down.
+    keys.KeyDown(vk::Shift);
+    EXPECT_FALSE(keys.IsCapsLockOn()); // an answer: the server has taken the Shift
+    server.PersonTaps(ServerKeyboard::kB);
+    Type(keys, "c");
+    keys.KeyUp(vk::Shift);
+    ExpectWritten("aéBBC"_w);
+}
+
+TEST_F(Typing, ThePersonsKeysAndOursMayAlternate) {
+    ASSERT_TRUE(hasFocus);
+    X11KeyOutput keys;
+    Text all;
+    for (int i = 0; i < 20; ++i) {
+        server.PersonTaps(ServerKeyboard::kA);
+        Type(keys, "ção"_w);
+        EXPECT_FALSE(keys.IsCapsLockOn()); // an answer: the server has taken what we typed
+        all += "ação"_w;
+    }
+    ExpectWritten(all);
+}
+
+TEST_F(Typing, AChangeOfLayoutIsFollowedWhileRunning) {
+    ASSERT_TRUE(hasFocus);
+    X11KeyOutput keys;
+    for (const char* layout : {"us", "pt", "us"}) {
+        SetLayout(layout);
+        Type(keys, kSentence);
+        ExpectWritten(kSentence);
+    }
+}
+
+TEST_F(Typing, TheNumericPadWritesDigitsWhateverNumLockSays) {
+    ASSERT_TRUE(hasFocus);
+    X11KeyOutput keys;
+    Tap(keys, vk::Num0 + 5);
+    ExpectWritten("5");
+    Tap(keys, vk::NumLock);
+    Tap(keys, vk::Num0 + 5);
+    Tap(keys, vk::Num0 + 7);
+    Tap(keys, vk::NumLock);
+    ExpectWritten("57");
+}
+
+TEST_F(Typing, KeysAreToldWithTheModifiersThatTheLayoutAsksFor) {
+    const auto expect = [](const KeyOutput& keys, TextView c, int code, unsigned shift) {
+        const auto key = keys.KeyOf(c.front());
+        ASSERT_TRUE(key) << ToUtf8(c);
+        EXPECT_EQ(key->code, code) << ToUtf8(c);
+        EXPECT_EQ(key->shift, shift) << ToUtf8(c);
+    };
+    X11KeyOutput keys;
+    expect(keys, "a", 'A', kNoShift);
+    expect(keys, "~", 192, kShift);
+    EXPECT_FALSE(keys.KeyOf("ç"_w.front()));
+    SetLayout("pt");
+    expect(keys, "A", 'A', kShift);
+    expect(keys, "@", '2', kControl | kAlt);
+    expect(keys, "~", 191, kNoShift);
+    expect(keys, "´"_w, 186, kNoShift);
+    expect(keys, "`", 186, kShift);
+    expect(keys, "Ç"_w, 192, kShift);
+    expect(keys, "(", '8', kShift);
+    EXPECT_FALSE(keys.KeyOf("é"_w.front())) << "only behind a dead key";
+    EXPECT_EQ(keys.KeyName(191), "~");
+    EXPECT_EQ(keys.KeyName(vk::Num0 + 5), "Num 5");
+}
+
+TEST_F(Typing, NothingOfTheKeyboardChangesForGood) {
+    const auto before = server.Symbols();
+    {
+        X11KeyOutput keys;
+        Type(keys, "éœ»"_w);
+        EXPECT_NE(server.Symbols(), before);
+    }
+    EXPECT_EQ(server.Symbols(), before);
+}
+
+TEST_F(Typing, AKilledRunLeavesNothingPressedAndItsSpareKeysAreFoundAgain) {
+    const auto before = server.Symbols();
+    for (const int signal : {SIGTERM, SIGSEGV, SIGKILL}) {
+        SCOPED_TRACE(signal);
+        ChildProcess run(Ourselves({kHoldShift}));
+        ASSERT_TRUE(Eventually([this] { return !server.Down().empty(); }));
+        run.Kill(signal);
+        EXPECT_TRUE(Eventually([this] { return server.Down().empty(); }));
+    }
+    EXPECT_NE(server.Symbols(), before);
+    { const X11KeyOutput next; }
+    EXPECT_EQ(server.Symbols(), before);
+}
+
+} // namespace
+} // namespace ondrilo
