@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <initializer_list>
 #include <limits>
 
 /// The options of a profile, made from the rows of ProfileOptions.def: typed handles to read and set values
@@ -38,18 +39,24 @@ using enum RealOption;
 using enum TextOption;
 } // namespace option
 
-inline constexpr std::size_t kIntegerOptions = 0
-#define OPTION_INTEGER(kind, key, standard, least, most, label) +1
+inline constexpr std::size_t kIntegerOptions =
+    std::initializer_list<IntegerOption>{
+#define OPTION_INTEGER(kind, key, standard, least, most, label) IntegerOption::key,
 #include "profiles/ProfileOptions.def"
-    ;
-inline constexpr std::size_t kRealOptions = 0
-#define OPTION_REAL(key, label) +1
+    }
+        .size();
+inline constexpr std::size_t kRealOptions =
+    std::initializer_list<RealOption>{
+#define OPTION_REAL(key, label) RealOption::key,
 #include "profiles/ProfileOptions.def"
-    ;
-inline constexpr std::size_t kTextOptions = 0
-#define OPTION_TEXT(kind, key, standard, label) +1
+    }
+        .size();
+inline constexpr std::size_t kTextOptions =
+    std::initializer_list<TextOption>{
+#define OPTION_TEXT(kind, key, standard, label) TextOption::key,
 #include "profiles/ProfileOptions.def"
-    ;
+    }
+        .size();
 
 inline constexpr int kLeastInteger = std::numeric_limits<int>::min();
 inline constexpr int kMostInteger = std::numeric_limits<int>::max();

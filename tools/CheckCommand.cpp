@@ -29,7 +29,7 @@ int Check(const Arguments& arguments) {
     CheckDictionaries(folder, profiles, report);
     CheckOptions(folder, profiles, report);
     CheckKeyboards(folder, profiles, report);
-    std::ranges::sort(report);
+    std::sort(report.begin(), report.end());
     // A profile that is listed twice is found twice.
     report.erase(std::unique(report.begin(), report.end()), report.end());
     for (const auto& [file, line, reason] : report) {

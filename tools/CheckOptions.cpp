@@ -152,7 +152,7 @@ void CheckSystemOptions(const DataFolder& folder, const std::vector<Text>& profi
         const auto value = words.size() > 1 ? words[1] : TextView{};
         if (option == std::end(kSystemOptions))
             file.Tell(Quoted(words[0]) + " is no option: skipped");
-        else if (option->kind == SystemOptionKind::Integer && IntegerProblem(value).size())
+        else if (option->kind == SystemOptionKind::Integer && !IntegerProblem(value).empty())
             file.Tell(IntegerProblem(value));
         else if (option->key == "PERFIL_UTILIZADOR_ARRANQUE")
             checkProfile(value);

@@ -4,6 +4,7 @@
 #include "text/LineReader.h"
 
 #include <optional>
+#include <tuple>
 #include <vector>
 
 /// What `check` finds, and the small readers that its parts share.
@@ -14,7 +15,10 @@ struct CheckFinding {
     Text file;
     int line = 0;
     Text reason;
-    auto operator<=>(const CheckFinding&) const = default;
+    bool operator==(const CheckFinding&) const = default;
+    bool operator<(const CheckFinding& other) const {
+        return std::tie(file, line, reason) < std::tie(other.file, other.line, other.reason);
+    }
 };
 using CheckReport = std::vector<CheckFinding>;
 

@@ -15,6 +15,7 @@ int DrawKeyboard(const Arguments& arguments) {
     std::vector<std::string> words = arguments.Words();
     words.insert(words.begin(), program.string());
     std::vector<char*> pointers;
+    pointers.reserve(words.size() + 1);
     for (auto& word : words)
         pointers.push_back(word.data());
     pointers.push_back(nullptr);

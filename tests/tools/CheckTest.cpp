@@ -17,7 +17,7 @@ using testing::IsEmpty;
 
 /// "line: reason" of the findings in one file, in order.
 std::vector<Text> Of(TextView file, CheckReport report) {
-    std::ranges::sort(report);
+    std::sort(report.begin(), report.end());
     std::vector<Text> found;
     for (const auto& finding : report)
         if (finding.file == file)
