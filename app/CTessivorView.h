@@ -21,7 +21,7 @@ class CTessivorView : private FrameWindowListener {
     void Handle(const MessageEvent& event);
 
     [[nodiscard]] CUserProfileSet& Profiles() { return userProfiles; }
-    [[nodiscard]] const COnScreenKeyboard& Keyboard() const { return keyboard; }
+    [[nodiscard]] COnScreenKeyboard& Keyboard() { return keyboard; }
     [[nodiscard]] const Targets& TextTargets() const { return targets; }
 
   private:

@@ -67,6 +67,7 @@ void KeyboardController::FollowKeyboardLink(COnScreenKeyIdentifier key, const Ac
     CloseKeyboard();
     profiles.Active().properties.activeKeyboardName = name;
     LoadKeyboard(name);
+    placement.RefreshTitle();
     Announce();
 }
 

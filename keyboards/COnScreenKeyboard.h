@@ -59,6 +59,8 @@ class COnScreenKeyboard {
     [[nodiscard]] const std::vector<COnScreenKeyData>& FlatKeys() const { return flatKeys; }
 
     [[nodiscard]] bool IsModified() const;
+    /// The person changed it.
+    void MarkModified() { modified = true; }
     void ClearModified();
 
     // Keys one by one.

@@ -31,6 +31,7 @@ class FakeSessionWindows : public SessionWindows {
         Point lowerLeft;
         bool visible = false;
     };
+    std::vector<Text> texts; ///< of previews and notices, in their order
     Shown preview;
     Shown notice;
     TextWindowStyle previewStyle;
@@ -76,7 +77,10 @@ class FakeSessionWindows : public SessionWindows {
             --owner.alive;
             owner.journal.Note("destroy " + name);
         }
-        void SetText(TextView text) override { shown.text = text; }
+        void SetText(TextView text) override {
+            shown.text = text;
+            owner.texts.emplace_back(text);
+        }
         [[nodiscard]] Size GetSize() const override { return {10 * static_cast<int>(shown.text.size()), 20}; }
         void MoveTo(Point lowerLeft) override { shown.lowerLeft = lowerLeft; }
         void Show() override { shown.visible = true; }

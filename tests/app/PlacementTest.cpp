@@ -1,0 +1,107 @@
+#include "tests/app/RunningSystem.h"
+
+namespace ondrilo {
+namespace {
+
+TEST_F(RunningSystem, ANormalWindowFitsEditorAndKeyboard) {
+    StartWriting("POSICAO_INICIAL_JANELA_X 30\nPOSICAO_INICIAL_JANELA_Y 40\nALTURA_EDITOR_MENSAGENS 90\n");
+    const auto keyboard = view->Keyboard().GetSize();
+    EXPECT_EQ(frame.client, (Size{keyboard.width, keyboard.height + 90}));
+    EXPECT_EQ(frame.position, (Point{30, 40}));
+    EXPECT_EQ(windows.editor->area, (Rectangle{0, 0, keyboard.width, 90}));
+    EXPECT_EQ(windows.keyboardPlace, (Point{0, 90}));
+
+    Options().Set(option::CENTRAR_JANELA, 1);
+    queue.Post(Message::UM_LAYOUT);
+    Drain();
+    EXPECT_EQ(frame.position,
+              (Point{(1920 - frame.client.width - 16) / 2, (1080 - frame.client.height - 48) / 2}));
+}
+
+TEST_F(RunningSystem, AMaximizedWindowCentresItsElements) {
+    frame.client = {1600, 900};
+    StartWriting("INICIAR_JANELA_MAXIMIZADA 1\nINICIAR_JANELA_MINIMIZADA 1\nALTURA_EDITOR_MENSAGENS 100\n");
+    EXPECT_EQ(frame.state, WindowState::Maximized) << "of both, maximised wins";
+    frame.client = {1600, 900};
+    queue.Post(Message::UM_LAYOUT);
+    Drain();
+    const auto keyboard = view->Keyboard().GetSize();
+    const int left = (1600 - keyboard.width) / 2;
+    EXPECT_EQ(windows.editor->area, (Rectangle{left, 0, keyboard.width, 100}));
+    EXPECT_EQ(windows.keyboardPlace, (Point{left, 100}));
+
+    Options().Set(option::CENTRA_ELEMENTOS_JANELA, 1);
+    Options().Set(option::AJUSTA_COMPRIMENTO_EDITOR_MENSAGENS, 0);
+    queue.Post(Message::UM_LAYOUT);
+    Drain();
+    const int top = (900 - keyboard.height - 100) / 2;
+    EXPECT_EQ(windows.editor->area, (Rectangle{0, top, 1600, 100}));
+    EXPECT_EQ(windows.keyboardPlace, (Point{left, top + 100}));
+    EXPECT_EQ(frame.client, (Size{1600, 900}));
+}
+
+TEST_F(RunningSystem, AMinimizedWindowIsLeftAlone) {
+    StartWriting("INICIAR_JANELA_MINIMIZADA 1\n");
+    EXPECT_EQ(frame.state, WindowState::Minimized);
+    const auto before = frame.client;
+    Options().Set(option::ALTURA_EDITOR_MENSAGENS, 300);
+    queue.Post(Message::UM_LAYOUT);
+    Drain();
+    EXPECT_EQ(frame.client, before);
+}
+
+TEST_F(RunningSystem, WithoutTheEditorTheKeyboardStandsAtTheTop) {
+    StartWriting("PROCESSADOR_TEXTO_INTERNO 0\n");
+    EXPECT_EQ(windows.keyboardPlace, (Point{0, 0}));
+    EXPECT_EQ(frame.client, view->Keyboard().GetSize());
+}
+
+TEST_F(RunningSystem, TheTitleTellsTheStateOfTheSession) {
+    folder.Write("configsis", "ADAPTACAO_CONTEXTO 1\n");
+    StartWriting("REGISTAR_EVENTOS 1\n");
+    const Text start = "Ondrilo V3.0: generico (Casa) (Logging Ligado)";
+    EXPECT_EQ(frame.title, start + " (GPS Inactivo)");
+    services.cooperation.up = true;
+    services.cooperation.role = CooperativeRole::Server;
+    frame.listener->OnDraw();
+    EXPECT_EQ(frame.title, start + " (SERVIDOR)");
+    view->Keyboard().SetEditing(true);
+    frame.listener->OnDraw();
+    EXPECT_EQ(frame.title, Text(start).append("|EDIÇÃO DE TECLADO|"_w));
+}
+
+TEST_F(RunningSystem, TheBackgroundFollowsTheProfile) {
+    folder.Write("Fundo.bmp", "");
+    StartWriting("IMAGEM_FUNDO fundo.bmp\nCOR_FUNDO_JANELA 255\nCOR_FUNDO_JANELA2 7\n");
+    EXPECT_EQ(frame.background, (WindowBackground{folder.Path() / "Fundo.bmp", 1, 255, 7, 45}));
+    frame.listener->OnDestroy();
+    EXPECT_EQ(frame.background, std::nullopt);
+}
+
+TEST_F(RunningSystem, TheWindowKeepsAwayFromTheCaretOrFollowsIt) {
+    folder.Write("Casa.tec", "LINHA L\nGRUPO G\nTECLA TECLA_NORMAL o o o\n");
+    StartWriting("REPOSICIONAR_JANELA 1\nPOSICAO_INICIAL_JANELA_X 5\n");
+    windows.editor->caret = {100, 100};
+    Tick(20);
+    EXPECT_EQ(frame.position.x, 5) << "not while the system's own window is in front";
+    CaretFollower follower({DataFolder(folder.Path()), queue, clock, timers, desktop, keys, boxes, dialogs,
+                            sounds, programs, textMeasure, pictureMeasure, frame, windows},
+                           view->Profiles(), view->Keyboard(), view->TextTargets());
+    const auto whole = frame.Frame();
+    follower.Move();
+    EXPECT_EQ(frame.position, (Point{1920 - whole.width, 1080 - whole.height}));
+    windows.editor->caret = {1500, 900};
+    follower.Move();
+    EXPECT_EQ(frame.position, (Point{0, 0}));
+    Options().Set(option::REPOSICIONAR_JANELA, 0);
+    Options().Set(option::PERSEGUIR_CURSOR_TEXTO, 1);
+    follower.Move();
+    EXPECT_EQ(frame.position, (Point{1500 - whole.width / 2, 900 - 10 - whole.height}));
+    windows.editor->caret = {};
+    frame.position = {1, 2};
+    follower.Move();
+    EXPECT_EQ(frame.position, (Point{1, 2}));
+}
+
+} // namespace
+} // namespace ondrilo
