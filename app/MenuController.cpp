@@ -42,7 +42,7 @@ void MenuController::OpenProfile() {
         return;
     if (events.IsOpen())
         events.Event("MENU_OPTION_SELECTION", "USER_PROFILE_LOAD_" + name);
-    session.LoadProfile(name);
+    session.ChangeProfile(name, true);
 }
 
 } // namespace ondrilo

@@ -106,19 +106,15 @@ void SessionController::StopSession() {
     queue.Clear();
 }
 
-void SessionController::ChangeProfile(TextView name) {
+void SessionController::ChangeProfile(TextView name, bool withNotice) {
     // A copy: the name may belong to the session that ends.
     const Text profile(name);
     StopSession();
+    const auto notice = withNotice ? ShowNotice(windows, desktop, kLoadingProfileNotice) : nullptr;
     profiles.Open(profile);
     auto& properties = profiles.Active().properties;
     properties.activeKeyboardName = properties.Get(option::NOME_TECLADO);
     StartSession();
-}
-
-void SessionController::LoadProfile(TextView name) {
-    const auto notice = ShowNotice(windows, desktop, kLoadingProfileNotice);
-    ChangeProfile(name);
 }
 
 } // namespace ondrilo

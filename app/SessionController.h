@@ -24,9 +24,8 @@ class SessionController {
     /// Handles no message meanwhile, and throws away what was posted. The active profile stays active.
     /// Nothing if no session runs.
     void StopSession();
-    void ChangeProfile(TextView name);
-    /// ChangeProfile under a notice.
-    void LoadProfile(TextView name);
+    /// `withNotice`: a notice stands while the new profile loads.
+    void ChangeProfile(TextView name, bool withNotice = false);
     [[nodiscard]] bool IsRunning() const { return running; }
 
   private:

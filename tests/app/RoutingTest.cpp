@@ -152,7 +152,8 @@ TEST_F(RunningSystem, OnlyTheLeftButtonSelectsAKey) {
     EXPECT_EQ(Written(), "");
 }
 
-TEST_F(RunningSystem, SilenceIsNoWritingTime) {
+TEST(WritingClockTest, SilenceIsNoWritingTime) {
+    FakeClock clock;
     WritingClock writing(clock);
     writing.Reset();
     clock.now += std::chrono::seconds(5);
