@@ -20,12 +20,12 @@ constexpr std::array<NamedCharacter, 5> kNamedCharacters{{{'\b', "\\b", "CHAR_RE
 
 } // namespace
 
-EventWriter::EventWriter(EventLog& log, const CUserProfileSet& profiles, std::function<Text(int)> keyName)
-    : log(log), profiles(profiles), keyName(std::move(keyName)) {
+EventWriter::EventWriter(EventLog& log, const CUserProfileSet& profiles, const KeyOutput& keys)
+    : log(log), profiles(profiles), keys(keys) {
 }
 
 Text EventWriter::KeyEvent(int code) const {
-    return "KEY_DOWN_" + Replace(MakeUpper(keyName(code)), " ", "_");
+    return "KEY_DOWN_" + Replace(MakeUpper(keys.KeyName(code)), " ", "_");
 }
 
 Text EventWriter::EventOf(const ActionOrigin& origin) const {

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "logging/EventLog.h"
+#include "platform/Keyboard.h"
 #include "profiles/store/CUserProfileSet.h"
 
-#include <functional>
 #include <optional>
 
 namespace ondrilo {
@@ -22,11 +22,9 @@ struct ActionOrigin {
 /// Writes what happens into the event log, if one is open. Callers that build a text for it ask IsOpen first.
 class EventWriter {
   public:
-    /// `keyName` gives the name of a virtual key.
-    EventWriter(EventLog& log, const CUserProfileSet& profiles, std::function<Text(int)> keyName);
+    EventWriter(EventLog& log, const CUserProfileSet& profiles, const KeyOutput& keys);
 
     [[nodiscard]] bool IsOpen() const { return log.IsOpen(); }
-    [[nodiscard]] EventLog& Log() { return log; }
     /// An action with its origin in the event column.
     void Action(const ActionOrigin& origin, TextView type, std::optional<COnScreenKeyIdentifier> key = {});
     /// `prefix` and the text, its blanks as "_".
@@ -47,7 +45,7 @@ class EventWriter {
 
     EventLog& log;
     const CUserProfileSet& profiles;
-    std::function<Text(int)> keyName;
+    const KeyOutput& keys;
 };
 
 } // namespace ondrilo

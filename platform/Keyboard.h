@@ -36,6 +36,8 @@ class KeyOutput {
     virtual void KeyDown(int code) = 0;
     virtual void KeyUp(int code) = 0;
     [[nodiscard]] virtual bool IsCapsLockOn() const = 0;
+    /// What people call the key, for the event log.
+    [[nodiscard]] virtual Text KeyName(int code) const { return std::to_string(code); }
 };
 
 } // namespace ondrilo

@@ -26,7 +26,7 @@ class X11KeyOutput : public KeyOutput {
     void KeyUp(int code) override;
     [[nodiscard]] bool IsCapsLockOn() const override;
     /// The name of a virtual key for the log: that of a special key, or what the key writes on the layout.
-    [[nodiscard]] Text KeyName(int code) const;
+    [[nodiscard]] Text KeyName(int code) const override;
 
   private:
     class Implementation;
