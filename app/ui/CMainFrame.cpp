@@ -110,6 +110,12 @@ Rectangle CMainFrame::Frame() const {
     return FromQRect(frameGeometry());
 }
 
+void CMainFrame::MoveTo(Point position) {
+    move(ToQPoint(position));
+    if (!activated)
+        firstCorner = ToQPoint(position);
+}
+
 void CMainFrame::FitClient(Size size) {
     const QSize wanted(size.width, size.height);
     if (wanted != fitted)
@@ -165,22 +171,27 @@ void CMainFrame::OnViewResized() {
 }
 
 bool CMainFrame::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::Expose || !windowHandle()->isExposed() || exposurePending)
-        return QMainWindow::eventFilter(watched, event);
-    exposurePending = true;
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            exposurePending = false;
-            if (!listener)
-                return;
-            // A window that refuses the focus is as active as it gets once it shows.
-            if (!std::exchange(activated, true))
-                listener->OnActivateView();
-            listener->OnDraw();
-        },
-        Qt::QueuedConnection);
+    if (event->type() == QEvent::Expose && windowHandle()->isExposed() &&
+        !std::exchange(exposurePending, true))
+        QMetaObject::invokeMethod(this, &CMainFrame::OnExposed, Qt::QueuedConnection);
     return QMainWindow::eventFilter(watched, event);
+}
+
+void CMainFrame::OnExposed() {
+    exposurePending = false;
+    // Until it shows, a window does not know its decorations, and places what is inside them.
+    if (const auto corner = std::exchange(firstCorner, std::nullopt)) {
+        move(*corner);
+        // The move carries a size too, and that may be one that the desktop told late.
+        if (State() == WindowState::Normal && fitted.isValid())
+            FitClient({fitted.width(), fitted.height()});
+    }
+    if (!listener)
+        return;
+    // A window that refuses the focus is as active as it gets once it shows.
+    if (!std::exchange(activated, true))
+        listener->OnActivateView();
+    listener->OnDraw();
 }
 
 void CMainFrame::changeEvent(QEvent* event) {

@@ -32,7 +32,7 @@ class CMainFrame : public QMainWindow, public FrameWindow {
     void Show(WindowState state) override;
     [[nodiscard]] WindowState State() const override;
     [[nodiscard]] Rectangle Frame() const override;
-    void MoveTo(Point position) override { move(position.x, position.y); }
+    void MoveTo(Point position) override;
     [[nodiscard]] Size ClientSize() const override { return {view->width(), view->height()}; }
     void FitClient(Size size) override;
     void ShowCaption(bool visible) override;
@@ -55,6 +55,7 @@ class CMainFrame : public QMainWindow, public FrameWindow {
   private:
     /// Calls the listener from the event loop, unless there is none by then.
     void TellLater(void (FrameWindowListener::*what)());
+    void OnExposed();
     void OnViewResized();
     void OnMenuCommand(int number);
     void Edit(int number);
@@ -65,6 +66,7 @@ class CMainFrame : public QMainWindow, public FrameWindow {
     const KeyOutput& layout;
     FrameWindowListener* listener = nullptr;
     ViewWidget* view;
+    std::optional<QPoint> firstCorner; // where the session wants the window that has not shown yet
     QSize fitted;
     int refusals = 0; // how often the view did not get the fitted size
     bool exposurePending = false;

@@ -26,7 +26,6 @@ CColorButton::CColorButton(COnScreenKeyIdentifier identifier, KeyActivation& act
     : QPushButton(parent), identifier(identifier), activation(activation) {
     setObjectName(QString("key_%1_%2_%3").arg(identifier.line).arg(identifier.group).arg(identifier.key));
     setFocusPolicy(Qt::NoFocus);
-    setAttribute(Qt::WA_OpaquePaintEvent);
     // The mouse handlers below never reach the base class, so this is the press of an assistive program.
     connect(this, &QPushButton::pressed, this,
             [this] { this->activation.Press(this->identifier, PressButton::Left); });
@@ -42,6 +41,13 @@ void CColorButton::ShowFace(const KeyFace& face, bool pressDot) {
     pressDotShowing = pressDot;
     if (visibly)
         update();
+}
+
+/// A style that polishes a button has it repainted with what is behind it, and at each move of the pointer.
+void CColorButton::showEvent(QShowEvent* event) {
+    QPushButton::showEvent(event);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_Hover, false);
 }
 
 void CColorButton::paintEvent(QPaintEvent*) {
@@ -62,7 +68,7 @@ void CColorButton::mouseReleaseEvent(QMouseEvent*) {
 void CColorButton::mouseDoubleClickEvent(QMouseEvent* event) {
     mousePressEvent(event);
     if (event->button() == Qt::LeftButton)
-        emit doubleClicked();
+        Q_EMIT doubleClicked();
 }
 
 void CColorButton::enterEvent(QEnterEvent*) {

@@ -19,12 +19,13 @@ class CColorButton : public QPushButton {
     /// While the press dot shows, what is painted stays as it was when the dot came.
     void ShowFace(const KeyFace& face, bool pressDot);
 
-  signals:
+  Q_SIGNALS:
     /// The left button was pressed for a second time in short order; that it was pressed went to
     /// KeyActivation.
     void doubleClicked();
 
   protected:
+    void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

@@ -35,7 +35,7 @@ class Pencil {
         }
         if (closed)
             path.closeSubpath();
-        painter.strokePath(path, {color, line, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin});
+        painter.strokePath(path, {color, line, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin});
     }
     void Fill(std::initializer_list<std::pair<double, double>> corners) {
         painter.fillPath(Path(corners), color);

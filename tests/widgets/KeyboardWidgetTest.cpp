@@ -1,0 +1,193 @@
+#include "keyboards/ui/KeyboardWidget.h"
+
+#include "platform/qt/QtTextMeasure.h"
+#include "tests/support/FakeClock.h"
+#include "tests/support/FakeSounds.h"
+#include "tests/support/TemporaryFolder.h"
+#include "tests/widgets/Images.h"
+
+#include <QAccessible>
+#include <QTest>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace ondrilo {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr Milliseconds kDot{300}, kRest{400}, kRepeat{4000};
+
+class KeyboardWidgetTest : public testing::Test {
+  protected:
+    KeyboardWidgetTest() {
+        std::filesystem::create_directories(folder.Path() / "CAT_IMG_Casa");
+        SavePicture(folder.Path() / "CAT_IMG_Casa/porta.bmp", {20, 20}, Qt::green);
+        folder.Write("k.tec", "LINHA um\nGRUPO a\nTECLA TECLA_NORMAL a letra;;;a a\n"
+                              "TECLA TECLA_NORMAL b letra;;;b b 0 -1 -1\n"
+                              "LINHA dois\nGRUPO b\nTECLA TECLA_PREDICAO\nTECLA TECLA_PREDICAO_IMAGEM\n");
+        settings.font = {"DejaVu Sans", 10};
+        settings.backgroundColor = 0xFFFFFF;
+        settings.predictionBackground = 0xFFFFFF;
+        settings.keySound = true;
+        settings.hoverSpeechLimit = 2;
+        keyboard.Open(folder.Path("k.tec"), settings);
+        keyboard.LayOut(text, pictures);
+        window = std::make_unique<KeyboardWidget>(keyboard, queue, timers, sounds, data, pictures, nullptr);
+        QCursor::setPos(790, 590); // away from the keys: one under the pointer is lit
+        window->move(0, 0);
+        window->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    }
+
+    QWidget* KeyWidget(const char* name) { return window->findChild<QWidget*>(name); }
+    std::vector<MessageEvent> Posted() {
+        std::vector<MessageEvent> posted;
+        queue.Drain([&](const MessageEvent& event) { posted.push_back(event); });
+        return posted;
+    }
+    static QAccessibleInterface* Accessible(QWidget* widget) {
+        return QAccessible::queryAccessibleInterface(widget);
+    }
+    static MessageEvent Press(int button) { return {Message::UM_KEY_PRESS, 0, button}; }
+
+    struct Folder : TemporaryFolder {
+        [[nodiscard]] std::filesystem::path Path(const char* name) const {
+            return TemporaryFolder::Path() / name;
+        }
+        using TemporaryFolder::Path;
+    } folder;
+    const DataFolder data{folder.Path()};
+    KeyboardSettings settings;
+    QtTextMeasure text;
+    QtPictures pictures{data};
+    MessageQueue queue;
+    FakeTimers timers;
+    FakeSounds sounds;
+    COnScreenKeyboard keyboard;
+    std::unique_ptr<KeyboardWidget> window;
+};
+
+TEST_F(KeyboardWidgetTest, EachKeyIsAButtonNamedByItsDescriptionAtThePlaceOfTheLayout) {
+    auto* key = KeyWidget("key_0_0_0");
+    ASSERT_TRUE(key);
+    EXPECT_EQ(Accessible(key)->role(), QAccessible::Button);
+    EXPECT_EQ(Accessible(key)->text(QAccessible::Name), "letra a");
+    EXPECT_EQ(key->focusPolicy(), Qt::NoFocus);
+    const auto place = keyboard.PlaceOf({1, 0, 1});
+    EXPECT_EQ(KeyWidget("key_1_0_1")->geometry(), QRect(place.x, place.y, place.width, place.height));
+
+    keyboard.SetDescription({1, 0, 0}, "olá"_w);
+    EXPECT_EQ(Accessible(KeyWidget("key_1_0_0"))->text(QAccessible::Name), "olá");
+}
+
+TEST_F(KeyboardWidgetTest, EachButtonPostsItsPressAndAFastSecondPressCountsToo) {
+    auto* key = KeyWidget("key_0_0_0");
+    QTest::mouseClick(key, Qt::RightButton);
+    QTest::mouseClick(key, Qt::MiddleButton);
+    EXPECT_THAT(sounds.played, IsEmpty()) << "only the left button answers";
+    EXPECT_THAT(Posted(), ElementsAre(Press(1), Press(2)));
+
+    QTest::mouseClick(key, Qt::LeftButton);
+    QTest::mouseDClick(key, Qt::LeftButton);
+    EXPECT_EQ(sounds.played.size(), 2U);
+    EXPECT_THAT(Posted(), ElementsAre(Press(0), Press(0), MessageEvent{Message::UM_KEY_DOUBLE_CLICK}));
+
+    QTest::mouseDClick(KeyWidget("key_0_0_1"), Qt::LeftButton);
+    EXPECT_THAT(Posted(), IsEmpty()) << "an inactive key posts nothing";
+}
+
+TEST_F(KeyboardWidgetTest, AnAssistiveProgramPressesAKeyLikeTheMouse) {
+    auto* actions = Accessible(KeyWidget("key_0_0_0"))->actionInterface();
+    ASSERT_TRUE(actions);
+    actions->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_THAT(Posted(), ElementsAre(Press(0)));
+}
+
+TEST_F(KeyboardWidgetTest, ThePressDotLeavesTheKeyAsItWasUntilItGoes) {
+    auto* key = KeyWidget("key_0_0_0");
+    const auto rest = key->grab().toImage();
+    QTest::mousePress(key, Qt::LeftButton);
+    const auto pressed = key->grab().toImage();
+    EXPECT_NE(pressed, rest);
+
+    keyboard.SetLabel({0, 0, 0}, "z");
+    EXPECT_EQ(key->grab().toImage(), pressed);
+    timers.Fire(kDot);
+    EXPECT_NE(key->grab().toImage(), pressed);
+    EXPECT_NE(key->grab().toImage(), rest);
+}
+
+TEST_F(KeyboardWidgetTest, AKeyThatGoesTakesItsPressDotAndHoverWithIt) {
+    QTest::mousePress(KeyWidget("key_0_0_0"), Qt::LeftButton);
+    QEnterEvent enter({1, 1}, {1, 1}, {1, 1});
+    QApplication::sendEvent(KeyWidget("key_0_0_0"), &enter);
+    keyboard.Open(folder.Path("k.tec"), settings);
+    keyboard.LayOut(text, pictures);
+    Posted();
+    timers.Fire(kDot);
+    timers.Fire(kRest);
+    EXPECT_THAT(Posted(), IsEmpty());
+    EXPECT_FALSE(keyboard.Key({0, 0, 0}).pressDotShowing);
+
+    window.reset();
+    keyboard.SetLabel({0, 0, 0}, "z");
+}
+
+TEST_F(KeyboardWidgetTest, RestingOnAKeyLightsItAndAsksForSpeechAsOftenAsTheProfileSays) {
+    auto* key = KeyWidget("key_0_0_0");
+    const auto rest = key->grab().toImage();
+    QEnterEvent enter({1, 1}, {1, 1}, {1, 1});
+    QApplication::sendEvent(key, &enter);
+    EXPECT_NE(key->grab().toImage(), rest);
+    timers.Fire(kRest);
+    timers.Fire(kRepeat);
+    timers.Fire(kRepeat);
+    const MessageEvent hover{Message::UM_KEY_HOVER};
+    EXPECT_THAT(Posted(), ElementsAre(hover, hover));
+
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(key, &leave);
+    EXPECT_EQ(key->grab().toImage(), rest);
+}
+
+TEST_F(KeyboardWidgetTest, APredictedPictogramIsReadOnceForEachLabel) {
+    auto* key = KeyWidget("key_1_0_1");
+    keyboard.SetLabel({1, 0, 1}, "CAT_IMG_Casa\\porta.bmp");
+    EXPECT_GT(CountPixels(key->grab().toImage(), qRgb(0, 255, 0)), 100);
+
+    std::filesystem::remove(folder.Path() / "CAT_IMG_Casa/porta.bmp");
+    pictures.Clear();
+    keyboard.SetHighlighted({{1, 0, 1}}, true);
+    EXPECT_GT(CountPixels(key->grab().toImage(), qRgb(0, 255, 0)), 100);
+    keyboard.SetLabel({1, 0, 1}, "");
+    EXPECT_EQ(CountPixels(key->grab().toImage(), qRgb(0, 255, 0)), 0);
+}
+
+/// Counts the paints of a widget.
+class PaintCounter : public QObject {
+  public:
+    explicit PaintCounter(QWidget* widget) { widget->installEventFilter(this); }
+    int paints = 0;
+
+  private:
+    bool eventFilter(QObject*, QEvent* event) override {
+        paints += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
+TEST_F(KeyboardWidgetTest, OnlyTheKeyThatChangedIsRepainted) {
+    QApplication::processEvents();
+    const PaintCounter changed(KeyWidget("key_1_0_0")), other(KeyWidget("key_0_0_0")), whole(window.get());
+    keyboard.SetLabel({1, 0, 0}, "casa");
+    keyboard.SetLabel({1, 0, 0}, "casa");
+    QApplication::processEvents();
+    EXPECT_EQ(changed.paints, 1);
+    EXPECT_EQ(other.paints, 0);
+    EXPECT_EQ(whole.paints, 0);
+}
+
+} // namespace
+} // namespace ondrilo
