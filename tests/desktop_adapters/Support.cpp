@@ -37,6 +37,55 @@ std::vector<std::string> Ourselves(const std::vector<std::string>& arguments) {
     return command;
 }
 
+namespace {
+
+bool HasFocus(const X11Connection& connection, xcb_window_t window) {
+    const auto focus =
+        Owned(xcb_get_input_focus_reply(connection.Get(), xcb_get_input_focus(connection.Get()), nullptr));
+    for (xcb_window_t at = focus ? focus->focus : 0; at > XCB_INPUT_FOCUS_POINTER_ROOT;) {
+        if (at == window)
+            return true;
+        const auto tree =
+            Owned(xcb_query_tree_reply(connection.Get(), xcb_query_tree(connection.Get(), at), nullptr));
+        at = tree ? tree->parent : 0;
+    }
+    return false;
+}
+
+std::vector<xcb_window_t> TopLevelWindows(const X11Connection& connection) {
+    const auto cookie = xcb_get_property(connection.Get(), 0, connection.Root(),
+                                         connection.Atom("_NET_CLIENT_LIST"), XCB_ATOM_WINDOW, 0, 1024);
+    const auto reply = Owned(xcb_get_property_reply(connection.Get(), cookie, nullptr));
+    if (!reply || reply->format != 32)
+        return {};
+    const auto* windows = static_cast<const xcb_window_t*>(xcb_get_property_value(reply.get()));
+    return {windows, windows + xcb_get_property_value_length(reply.get()) / 4};
+}
+
+} // namespace
+
+bool GiveFocus(Desktop& desktop, WindowId window) {
+    const X11Connection connection;
+    int rounds = 0;
+    return Eventually([&] {
+        if (rounds++ % 100 == 0)
+            desktop.Activate(window);
+        return HasFocus(connection, static_cast<xcb_window_t>(window));
+    });
+}
+
+WindowId WaitForWindow(const Desktop& desktop, TextView title) {
+    const X11Connection connection;
+    WindowId found = 0;
+    static_cast<void>(Eventually([&] {
+        for (const auto window : TopLevelWindows(connection))
+            if (desktop.TitleOf(window) == title)
+                found = window;
+        return found != 0;
+    }));
+    return found;
+}
+
 void SetLayout(const std::string& layout) {
     const auto command = "setxkbmap -layout " + layout;
     if (std::system(command.c_str()) != 0)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Desktop.h"
 #include "platform/Keyboard.h"
 #include "text/Text.h"
 
@@ -35,6 +36,12 @@ inline constexpr auto kHoldShift = "--hold-shift"; ///< lends spare keycodes, pr
 inline constexpr auto kHoldLock = "--hold-lock";   ///< takes the lock of the file that follows and stays
 /// This program, in that role.
 [[nodiscard]] std::vector<std::string> Ourselves(const std::vector<std::string>& arguments);
+
+/// Gives a window the focus and waits until the server's keys really go there: window managers tell of an
+/// active window a moment earlier.
+[[nodiscard]] bool GiveFocus(Desktop& desktop, WindowId window);
+/// Waits for a top-level window with that title; 0 if none comes.
+[[nodiscard]] WindowId WaitForWindow(const Desktop& desktop, TextView title);
 
 /// Sets the X server's layout.
 void SetLayout(const std::string& layout);

@@ -21,8 +21,7 @@ class Typing : public testing::Test {
         SetLayout("us");
         box.resize(600, 300);
         box.show();
-        box.activateWindow();
-        hasFocus = Eventually([this] { return box.hasFocus(); });
+        hasFocus = Eventually([this] { return GiveFocus(desktop, box.winId()) && box.hasFocus(); });
     }
     ~Typing() override { EXPECT_EQ(server.Down(), std::vector<int>{}) << "a key stayed down"; }
 
@@ -40,6 +39,7 @@ class Typing : public testing::Test {
         box.clear();
     }
 
+    QtDesktop desktop;
     ServerKeyboard server;
     QPlainTextEdit box;
     bool hasFocus = false;
@@ -79,7 +79,6 @@ TEST_F(Typing, EveryCharacterOfTheCodePageCanBeWritten) {
 }
 
 TEST_F(Typing, ATerminalReceivesAccentsUnderBothLayouts) {
-    QtDesktop desktop;
     for (const char* layout : {"pt", "us"}) {
         SCOPED_TRACE(layout);
         SetLayout(layout);
@@ -88,7 +87,7 @@ TEST_F(Typing, ATerminalReceivesAccentsUnderBothLayouts) {
         const auto file = (folder.Path() / "written").string();
         const ChildProcess terminal(
             {"env", "LC_ALL=C.UTF-8", "xterm", "-u8", "-T", title, "-e", "sh", "-c", "cat >\"$0\"", file});
-        ASSERT_TRUE(Eventually([&] { return desktop.TitleOf(desktop.ForegroundWindow()) == title; }));
+        ASSERT_TRUE(GiveFocus(desktop, WaitForWindow(desktop, title)));
         ASSERT_TRUE(Eventually([&] { return std::filesystem::exists(file); }));
         X11KeyOutput keys;
         Type(keys, kSentence);

@@ -1,0 +1,108 @@
+#include "Support.h"
+#include "platform/linux/CanberraSoundPlayer.h"
+#include "platform/linux/FlockInstanceLock.h"
+#include "platform/linux/PosixProgramStarter.h"
+#include "platform/linux/WaveFile.h"
+#include "tests/support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <sstream>
+#include <sys/wait.h>
+
+namespace ondrilo {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// A silent WAV file: 8 bits, mono, 1000 samples a second.
+Text Silence(Milliseconds length) {
+    const auto number = [](std::uint32_t value, int bytes) {
+        Text text;
+        for (int i = 0; i < bytes; ++i)
+            text += static_cast<char>(value >> (8 * i));
+        return text;
+    };
+    const auto samples = static_cast<std::uint32_t>(length.count());
+    const Text format =
+        number(1, 2) + number(1, 2) + number(1000, 4) + number(1000, 4) + number(1, 2) + number(8, 2);
+    const Text chunks = "WAVEfmt " + number(16, 4) + format + "LIST" + number(3, 4) + "odd" + number(0, 1) +
+                        "data" + number(samples, 4) + Text(samples, '\x80');
+    return "RIFF" + number(static_cast<std::uint32_t>(chunks.size()), 4) + chunks;
+}
+
+bool IsFree(const std::filesystem::path& file) {
+    FlockInstanceLock lock;
+    return lock.Acquire(file);
+}
+
+TEST(InstanceLock, OneProcessHoldsItAndItEndsWithThatProcessHoweverThatEnds) {
+    const TemporaryFolder folder;
+    const auto file = folder.Path() / "runtime" / "lock";
+    EXPECT_TRUE(IsFree(file));
+    ChildProcess holder(Ourselves({kHoldLock, file.string()}));
+    EXPECT_TRUE(Eventually([&] { return !IsFree(file); }));
+    holder.Kill();
+    EXPECT_TRUE(IsFree(file));
+    EXPECT_TRUE(IsFree("/proc/no/such/place/lock")) << "where no lock can be, nobody is kept out";
+}
+
+TEST(Programs, OneIsStartedWithoutTheLockAndLeavesNoZombie) {
+    const TemporaryFolder folder;
+    const auto program = folder.Write("acção.exe", "#!/bin/sh\nsleep 30 &\necho $# $! >\"$0.out\"\n");
+    std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+    const auto file = folder.Path() / "lock";
+    {
+        FlockInstanceLock lock;
+        EXPECT_TRUE(lock.Acquire(file));
+        PosixProgramStarter starter;
+        starter.Start(FromUtf8(program.string()));
+        starter.Start("/no/such/program.exe");
+        ASSERT_TRUE(Eventually([&] { return folder.Read("acção.exe.out").ends_with('\n'); }));
+    }
+    int arguments = -1;
+    pid_t sleeper = 0;
+    std::istringstream(folder.Read("acção.exe.out")) >> arguments >> sleeper;
+    EXPECT_EQ(arguments, 0);
+    EXPECT_TRUE(Eventually([&] { return IsFree(file); })) << "the program's child still runs";
+    EXPECT_EQ(kill(sleeper, SIGTERM), 0) << "it does not";
+    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
+    EXPECT_EQ(errno, ECHILD);
+}
+
+TEST(Sounds, ALengthIsReadPastOtherChunksAndFromNothingElse) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(LengthOfWave(folder.Write("good.wav", Silence(250ms))), 250ms);
+    EXPECT_EQ(LengthOfWave(folder.Write("cut.wav", Silence(250ms).substr(0, 40))), std::nullopt);
+    EXPECT_EQ(LengthOfWave(folder.Write("text.wav", "no sound")), std::nullopt);
+    EXPECT_EQ(LengthOfWave(folder.Path() / "missing.wav"), std::nullopt);
+}
+
+TEST(Sounds, WithoutASoundServerNobodyWaits) {
+    const TemporaryFolder folder;
+    const auto sound = folder.Write("sound.wav", Silence(100ms));
+    int bells = 0;
+    const auto start = std::chrono::steady_clock::now();
+    const auto elapsed = [start] {
+        return std::chrono::steady_clock::now() - start;
+    };
+    {
+        CanberraSoundPlayer player([&bells] { ++bells; });
+        for (int i = 0; i < 100; ++i)
+            player.Play(sound);
+        player.Play({});
+        player.Beep();
+        EXPECT_LT(elapsed(), 50ms) << "key sounds never wait";
+        player.PlayToEnd(folder.Path() / "missing.wav");
+        EXPECT_LT(elapsed(), 100ms);
+        player.PlayToEnd(sound);
+    }
+    EXPECT_LT(elapsed(), 3500ms);
+    EXPECT_EQ(bells, 1);
+}
+
+} // namespace
+} // namespace ondrilo
