@@ -15,9 +15,7 @@ CTessivorView::CTessivorView(const Environment& environment, const SessionServic
       userProfiles(environment.dataFolder, environment.boxes, environment.dialogs,
                    [this](TextView text) { this->environment.frame.SetStatusMessage(text); }),
       keyboardSimulator(environment.keys), writingClock(environment.clock),
-      events(
-          services.log, userProfiles,
-          [this](int code) { return keyboardSimulator.keySet.GetName(code).value_or(std::to_string(code)); }),
+      events(services.log, userProfiles, environment.keys),
       specialKeys(userProfiles, keyboardSimulator.keySet, targets),
       predictionKeys(keyboard, predictions, specialKeys, userProfiles),
       cycle(userProfiles, targets, predictions, predictionKeys, services),
