@@ -40,7 +40,7 @@ std::vector<Text> SortedNames(const fs::path& folder,
 
 fs::path FindInside(const fs::path& folder, const Text& name) {
     std::error_code ignored;
-    const fs::path exact = folder / ToUtf8(name);
+    fs::path exact = folder / ToUtf8(name);
     if (fs::exists(exact, ignored))
         return exact;
     const Text folded = MakeLower(name);

@@ -11,7 +11,7 @@ Text OpenPictogramForm(TextView sentence) {
     Tokens tokens = SplitTokens(sentence);
     for (Text& token : tokens)
         if (!IsPictogramToken(token))
-            token = "[" + token + "]";
+            token.insert(0, "[").append("]");
     Text form = Join(tokens, " ");
     form.pop_back();
     return form;
