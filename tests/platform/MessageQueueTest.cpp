@@ -93,6 +93,7 @@ TEST_F(MessageQueueTest, PostingNeverRunsAHandlerAndAWakeMayPostItself) {
 TEST_F(MessageQueueTest, ThreadsThatPostLoseNothingAndKeepTheirOwnOrder) {
     constexpr int kEach = 2000;
     std::vector<std::thread> threads;
+    threads.reserve(3);
     for (int thread = 0; thread < 3; ++thread)
         threads.emplace_back([this, thread] {
             for (int i = 0; i < kEach; ++i)
