@@ -13,11 +13,22 @@
 namespace ondrilo {
 namespace {
 
+/// Every device pixel that the key touches, whole: a key's edge falls inside a pixel at uneven scale factors,
+/// and what is left of the pixel would keep any colour.
+QRectF WholePixels(const QPainter& painter, const QRectF& key) {
+    if (painter.paintEngine()->type() != QPaintEngine::Raster)
+        return key;
+    const auto toDevice = painter.deviceTransform();
+    return toDevice.inverted().mapRect(QRectF(toDevice.mapRect(key).toAlignedRect()));
+}
+
 void PaintFill(QPainter& painter, const QRectF& key, const KeyFace& face) {
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    const auto area = WholePixels(painter, key);
     if (face.gradientEnd)
-        FillGradient(painter, key, face.fill, *face.gradientEnd, face.gradientAngle);
+        FillGradient(painter, area, face.fill, *face.gradientEnd, face.gradientAngle);
     else
-        painter.fillRect(key, face.fill);
+        painter.fillRect(area, face.fill);
 }
 
 void PaintLine(QPainter& painter, const QRectF& area, const KeyFace& face, Qt::Alignment alignment) {
@@ -124,10 +135,10 @@ void PaintPageMark(QPainter& painter, const QRectF& key, const KeyFace& face) {
 
 void PaintKey(QPainter& painter, const QRectF& key, const KeyFace& face) {
     painter.save();
+    PaintFill(painter, key, face);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                            QPainter::SmoothPixmapTransform);
     painter.setClipRect(key, Qt::IntersectClip);
-    PaintFill(painter, key, face);
     PaintContent(painter, key, face);
     if (face.isLink)
         PaintLinkMark(painter, key, face.mark);

@@ -63,6 +63,14 @@ TEST(KeyPainting, StraightSymbolsHaveNoBlurredEdges) {
     }
 }
 
+TEST(KeyPainting, AKeyFillsItsPixelsWhollyAtUnevenScales) {
+    const auto face = MakeKeyFace(BlueKey("TECLA_NORMAL", "", "a"), Settings(), false, {});
+    const auto image = Painted({20, 20}, 1.5, [&](QPainter& painter) {
+        PaintKey(painter, {3, 5, 9, 9}, face);
+    });
+    EXPECT_EQ(CountPixels(image, kBlueDot) + CountPixels(image, qRgb(255, 255, 255)), 30 * 30);
+}
+
 TEST(KeyPainting, AnInactiveKeyShowsItsFillAndLinkMarkAndNeverItsText) {
     auto key = BlueKey("TECLA_NORMAL", "Frases", "frases.tec");
     key.data.active = 0;
