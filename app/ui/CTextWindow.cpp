@@ -34,7 +34,9 @@ void CTextWindow::MoveTo(Point position) {
 
 void CTextWindow::Show() {
     show();
-    // The event loop may be far away: a notice stands during long work.
+    // The event loop, which would tell that the window is mapped, may be far away: a notice stands during
+    // long work. Without a window manager's say the server maps it at once.
+    setAttribute(Qt::WA_Mapped);
     repaint();
 }
 
