@@ -84,7 +84,7 @@ class CanberraSoundPlayer::Worker : public std::enable_shared_from_this<Worker> 
             return false;
         ca_proplist_sets(properties, CA_PROP_APPLICATION_NAME, "Ondrilo");
         ca_proplist_sets(properties, CA_PROP_MEDIA_FILENAME, file.c_str());
-        auto playing = std::make_unique<Playing>(shared_from_this(), taken);
+        std::unique_ptr<Playing> playing(new Playing{shared_from_this(), taken});
         const int result = ca_context_play_full(context, kSound, properties, &Worker::Ended, playing.get());
         ca_proplist_destroy(properties);
         if (result != CA_SUCCESS)

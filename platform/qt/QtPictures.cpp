@@ -3,7 +3,7 @@
 namespace ondrilo {
 namespace {
 
-constexpr qsizetype kCacheKilobytes = 64 * 1024;
+constexpr qsizetype kCacheKilobytes = qsizetype{64} * 1024;
 
 qsizetype KilobytesOf(const QImage& picture) {
     return picture.sizeInBytes() / 1024 + 1;

@@ -169,7 +169,7 @@ std::optional<KeyStroke> KeyboardMap::StrokeOfCode(int code, bool isNumLockOn) c
 }
 
 Text KeyboardMap::NameOf(int code) const {
-    const Text name = NameOfVirtualKey(code);
+    Text name = NameOfVirtualKey(code);
     if (!name.empty())
         return name;
     const auto stroke = StrokeOfCode(code, false);

@@ -14,6 +14,9 @@ namespace ondrilo {
 /// capital, or two signs, on one keycode. They stay lent for the whole run, since programs fetch the
 /// keyboard's map late. What is lent stands in a property of the root window too, by which the next run
 /// recognises what a killed one left behind.
+///
+/// A window of our own reads the map only when the handler that types has returned. A burst into it with more
+/// strange signs than there are spare keycodes (about twenty) would come out wrong; Portuguese never does.
 class SpareKeys {
   public:
     explicit SpareKeys(const X11Connection& connection);

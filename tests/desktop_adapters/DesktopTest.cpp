@@ -18,19 +18,19 @@ class TheDesktop : public testing::Test {
     TheDesktop() {
         ours.setWindowTitle(QString::fromUtf8("Olá – €"));
         ours.show();
-        hasBoth =
-            WaitForWindow(desktop, "Olá – €"_w) != 0 && GiveFocus(desktop, WaitForWindow(desktop, "Avó"_w));
+        theirs = WaitForWindow(desktop, "Avó"_w);
+        hasBoth = WaitForWindow(desktop, "Olá – €"_w) != 0 && GiveFocus(desktop, theirs);
     }
     QtDesktop desktop;
     QLineEdit ours;
     std::unique_ptr<ChildProcess> terminal = std::make_unique<ChildProcess>(
         std::vector<std::string>{"env", "LC_ALL=C.UTF-8", "xterm", "-T", "Avó", "-e", "cat"});
+    WindowId theirs = 0;
     bool hasBoth = false;
 };
 
 TEST_F(TheDesktop, WindowsAreKnownByTitleAndProgram) {
     ASSERT_TRUE(hasBoth);
-    const WindowId theirs = desktop.ForegroundWindow();
     const WindowId own = ours.winId();
     EXPECT_EQ(desktop.TitleOf(own, 3), "Olá"_w);
     EXPECT_TRUE(desktop.IsOurs(own));
@@ -46,7 +46,6 @@ TEST_F(TheDesktop, WindowsAreKnownByTitleAndProgram) {
 TEST_F(TheDesktop, AFocusChangeIsToldOnceAndNeverAfterItsRegistration) {
     ASSERT_TRUE(hasBoth);
     PassTime(50); // the terminal's own arrival is told before the registration
-    const WindowId theirs = desktop.ForegroundWindow();
     std::vector<WindowId> told;
     auto registration = desktop.OnFocusChange([&] { told.push_back(desktop.ForegroundWindow()); });
     desktop.Activate(ours.winId());
@@ -63,7 +62,6 @@ TEST_F(TheDesktop, AFocusChangeIsToldOnceAndNeverAfterItsRegistration) {
 
 TEST_F(TheDesktop, AMessageBoxTakesTheFocusAndGivesItBackToTheProgramThatHadIt) {
     ASSERT_TRUE(hasBoth);
-    const WindowId theirs = desktop.ForegroundWindow();
     QtMessageBoxes boxes(desktop);
     bool hadFocus = false;
     QTimer::singleShot(0, [&] {
@@ -74,7 +72,8 @@ TEST_F(TheDesktop, AMessageBoxTakesTheFocusAndGivesItBackToTheProgramThatHadIt) 
     });
     EXPECT_EQ(boxes.AskYesNo("Pretende guardar as alterações?"_w), Answer::No);
     EXPECT_TRUE(hadFocus);
-    EXPECT_TRUE(Eventually([&] { return desktop.ForegroundWindow() == theirs; }));
+    EXPECT_TRUE(Eventually([&] { return desktop.ForegroundWindow() == theirs; }))
+        << ToUtf8(desktop.TitleOf(desktop.ForegroundWindow()));
 }
 
 TEST_F(TheDesktop, ThePointerMovesAndStaysOnAScreen) {

@@ -70,7 +70,8 @@ bool GiveFocus(Desktop& desktop, WindowId window) {
     return Eventually([&] {
         if (rounds++ % 100 == 0)
             desktop.Activate(window);
-        return HasFocus(connection, static_cast<xcb_window_t>(window));
+        return desktop.ForegroundWindow() == window &&
+               HasFocus(connection, static_cast<xcb_window_t>(window));
     });
 }
 
