@@ -62,7 +62,7 @@ int Run(const std::filesystem::path& dataFolder, QtDesktop& desktop, QtMessageBo
                         .windows = windows},
                        services.All());
     const QtQueuePump pump(queue, [&view](const MessageEvent& event) { view.Handle(event); });
-    const QuitSignals quitSignals([&frame] { frame.close(); });
+    const QuitSignals quitSignals([&frame] { frame.Close(); });
     view.OnInitialUpdate();
     return QApplication::exec();
 }

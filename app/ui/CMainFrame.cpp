@@ -13,6 +13,7 @@
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QTextEdit>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -21,8 +22,10 @@
 namespace ondrilo {
 namespace {
 
-/// After so many tries the window manager will not give the size that the window asks for.
-constexpr int kMostRefusals = 3;
+/// After so many tries in short order the window manager will not give the size that the window asks for.
+/// Sizes that the desktop tells late cost a few tries too.
+constexpr int kMostRefusals = 10;
+constexpr int kRefusalMemory = 1000; // milliseconds
 
 } // namespace
 
@@ -148,7 +151,19 @@ void CMainFrame::SetStatusMessage(TextView text) {
 }
 
 void CMainFrame::Close() {
-    QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+    QTimer::singleShot(0, this, &CMainFrame::CloseWhenFree);
+}
+
+/// An open dialog is given up first: whoever asked for it must be done before everything ends.
+void CMainFrame::CloseWhenFree() {
+    constexpr int patience = 50; // milliseconds
+    auto* dialog = QApplication::activeModalWidget();
+    if (!dialog) {
+        close();
+        return;
+    }
+    dialog->close();
+    QTimer::singleShot(patience, this, &CMainFrame::CloseWhenFree);
 }
 
 void CMainFrame::TellLater(void (FrameWindowListener::*what)()) {
@@ -166,6 +181,9 @@ void CMainFrame::OnViewResized() {
         return;
     if (!isMaximized() && view->size() == fitted)
         return;
+    if (!lastRefusal.isValid() || lastRefusal.hasExpired(kRefusalMemory))
+        refusals = 0;
+    lastRefusal.start();
     ++refusals;
     queue.Post(Message::UM_LAYOUT);
 }

@@ -5,6 +5,7 @@
 #include "platform/Keyboard.h"
 #include "platform/MessageQueue.h"
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 
 namespace ondrilo {
@@ -55,6 +56,7 @@ class CMainFrame : public QMainWindow, public FrameWindow {
   private:
     /// Calls the listener from the event loop, unless there is none by then.
     void TellLater(void (FrameWindowListener::*what)());
+    void CloseWhenFree();
     void OnExposed();
     void OnViewResized();
     void OnMenuCommand(int number);
@@ -68,7 +70,8 @@ class CMainFrame : public QMainWindow, public FrameWindow {
     ViewWidget* view;
     std::optional<QPoint> firstCorner; // where the session wants the window that has not shown yet
     QSize fitted;
-    int refusals = 0; // how often the view did not get the fitted size
+    int refusals = 0; // how often in short order the view did not get the fitted size
+    QElapsedTimer lastRefusal;
     bool exposurePending = false;
     bool activated = false;
     bool busy = false;

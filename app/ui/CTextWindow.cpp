@@ -2,8 +2,10 @@
 
 #include "platform/qt/QtConversion.h"
 
+#include <QApplication>
 #include <QFontMetrics>
 #include <QPainter>
+#include <QWindow>
 
 namespace ondrilo {
 
@@ -17,6 +19,13 @@ CTextWindow::CTextWindow(const TextWindowStyle& style, QWidget* parent)
     setFocusPolicy(Qt::NoFocus);
     setFont(ToQFont(style.font));
     Fit();
+    // On top of everything, it would cover the buttons of a question.
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* focused) {
+        if (focused && focused->modality() != Qt::NonModal)
+            lower();
+        else
+            raise();
+    });
 }
 
 void CTextWindow::SetText(TextView newText) {

@@ -210,7 +210,7 @@ bool CTextBox::ReportButton(QMouseEvent* event, bool down) {
 void CTextBox::mousePressEvent(QMouseEvent* event) {
     if (!ReportButton(event, true))
         return;
-    emit clickedInto();
+    Q_EMIT clickedInto();
     QTextEdit::mousePressEvent(event);
 }
 

@@ -38,7 +38,7 @@ class CTextBox : public QTextEdit, public TextSurface {
     [[nodiscard]] bool IsUnder(Point screen) const override;
     [[nodiscard]] WindowId Window() const override { return window()->winId(); }
 
-  signals:
+  Q_SIGNALS:
     /// The person clicked into the box in order to write there.
     void clickedInto();
 
