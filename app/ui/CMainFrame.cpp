@@ -13,7 +13,6 @@
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QTextEdit>
-#include <QTimer>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -26,6 +25,7 @@ namespace {
 /// Sizes that the desktop tells late cost a few tries too.
 constexpr int kMostRefusals = 10;
 constexpr int kRefusalMemory = 1000; // milliseconds
+constexpr int kSettleTime = 200;     // milliseconds
 
 } // namespace
 
@@ -43,6 +43,9 @@ CMainFrame::CMainFrame(MessageQueue& queue, Desktop& desktop, const KeyOutput& l
         if (state == Qt::ApplicationInactive)
             SetAcceptsFocus(false);
     });
+    settleTimer.setSingleShot(true);
+    settleTimer.setInterval(kSettleTime);
+    connect(&settleTimer, &QTimer::timeout, this, &CMainFrame::Settle);
     winId(); // there is a native window from now on
     windowHandle()->installEventFilter(this);
 }
@@ -130,6 +133,17 @@ void CMainFrame::FitClient(Size size) {
     const int statusHeight = statusBar()->isHidden() ? 0 : statusBar()->sizeHint().height();
     resize(size.width, menuHeight + size.height + statusHeight);
     QMainWindow::layout()->activate();
+    settleTries = 0;
+    settleTimer.start();
+}
+
+/// A size that is asked for while the window manager takes the window over can be lost, and nobody tells: the
+/// widgets then have a size that the window on the screen has not.
+void CMainFrame::Settle() {
+    if (State() != WindowState::Normal || windowHandle()->size() == size() || ++settleTries > kMostRefusals)
+        return;
+    windowHandle()->resize(size());
+    settleTimer.start();
 }
 
 void CMainFrame::EnableMenu(bool enabled) {

@@ -7,6 +7,7 @@
 
 #include <QElapsedTimer>
 #include <QMainWindow>
+#include <QTimer>
 
 namespace ondrilo {
 
@@ -57,6 +58,7 @@ class CMainFrame : public QMainWindow, public FrameWindow {
     /// Calls the listener from the event loop, unless there is none by then.
     void TellLater(void (FrameWindowListener::*what)());
     void CloseWhenFree();
+    void Settle();
     void OnExposed();
     void OnViewResized();
     void OnMenuCommand(int number);
@@ -72,6 +74,8 @@ class CMainFrame : public QMainWindow, public FrameWindow {
     QSize fitted;
     int refusals = 0; // how often in short order the view did not get the fitted size
     QElapsedTimer lastRefusal;
+    QTimer settleTimer;
+    int settleTries = 0;
     bool exposurePending = false;
     bool activated = false;
     bool busy = false;
