@@ -101,7 +101,7 @@ class Desktop:
         """What an installer leaves behind: the note of the installation folder, and that folder's files."""
         note = self.folder / 'system' / 'Norvane' / 'Ondrilo 3.0'
         note.mkdir(parents=True, exist_ok=True)
-        (note / 'Settings').write_text('Path=%s\n' % delivered)
+        (note / 'Settings').write_text('Path %s\n' % delivered)
 
     @property
     def data(self):
@@ -138,6 +138,9 @@ class Program:
         from gi.repository import Atspi
         self.atspi = Atspi
         self.window = wait_for(self._window, 'the window of the program', 30)
+        focused = Atspi.StateType.FOCUSED
+        wait_for(lambda: self.editor().get_state_set().contains(focused), 'the focus in the editor')
+        time.sleep(0.7)  # the first target is attached half a second after the session's start
 
     def _window(self):
         desktop = self.atspi.get_desktop(0)
@@ -167,10 +170,11 @@ class Program:
         return found
 
     def key(self, name, seconds=15.0):
-        """The keyboard's key of that name (its description)."""
+        """The key of that name (its description); of several the last, since predictions stand first."""
         push_button = self.atspi.Role.PUSH_BUTTON
-        return wait_for(lambda: next(iter(self.all(
-            lambda e: e.get_role() == push_button and e.get_name() == name)), None), 'the key "%s"' % name, seconds)
+        found = wait_for(lambda: self.all(lambda e: e.get_role() == push_button and e.get_name() == name),
+                         'the key "%s"' % name, seconds)
+        return found[-1]
 
     def keys(self):
         push_button = self.atspi.Role.PUSH_BUTTON
@@ -180,12 +184,16 @@ class Program:
         extents = self.key(name).get_extents(self.atspi.CoordType.SCREEN)
         self.desktop.click(extents.x + extents.width // 2, extents.y + extents.height // 2)
 
-    def text(self):
-        """The text of the internal editor."""
+    def editor(self):
         editor = next(iter(self.all(lambda e: e.get_role() == self.atspi.Role.TEXT and e.get_editable_text_iface())),
                       None)
         if editor is None:
             raise Failure('there is no editor in the accessibility tree')
+        return editor
+
+    def text(self):
+        """The text of the internal editor."""
+        editor = self.editor()
         return self.atspi.Text.get_text(editor, 0, self.atspi.Text.get_character_count(editor))
 
     def expect_text(self, text, seconds=10.0):
@@ -201,5 +209,6 @@ class Program:
     def quit(self, seconds=15.0):
         """Closes the window as a person does and waits for the end; returns the exit code."""
         window = self.desktop.xdotool('search', '--name', '^Ondrilo V3.0').split()[0]
-        self.desktop.xdotool('windowquit', window)
+        self.desktop.xdotool('windowactivate', '--sync', window)
+        self.desktop.press('alt+F4')
         return self.process.wait(seconds)
