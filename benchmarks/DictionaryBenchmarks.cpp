@@ -16,10 +16,10 @@ void ReportMemory(benchmark::State& state, const Memory& before, const Memory& a
 /// Words and word pairs, general and the person's, from files that the system has in its cache.
 void LoadWords(benchmark::State& state) {
     const DataFolder folder(GeneratedData::Full().Folder());
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         state.PauseTiming();
-        const Memory before = ReadMemory();
         ResetPeakMemory();
+        const Memory before = ReadMemory();
         auto dictionary = std::make_unique<CDictionary>();
         state.ResumeTiming();
         Text messages = dictionary->LoadGeneralWords(folder.Path("geral.pal")) +
@@ -38,10 +38,10 @@ BENCHMARK(LoadWords)->Unit(benchmark::kMillisecond)->Iterations(5);
 
 void LoadEverything(benchmark::State& state) {
     const DataFolder folder(GeneratedData::Full().Folder());
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         state.PauseTiming();
-        const Memory before = ReadMemory();
         ResetPeakMemory();
+        const Memory before = ReadMemory();
         auto dictionary = std::make_unique<CDictionary>();
         state.ResumeTiming();
         if (!dictionary->LoadProfileDictionaries(folder, GeneratedData::ProfileName(), true).empty())
@@ -62,7 +62,7 @@ void LearnWords(benchmark::State& state, const std::vector<Text>& words) {
     Percentiles percentiles;
     std::size_t next = 0;
     Text previous = "___";
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         const Text& word = words[next++ % words.size()];
         percentiles.Measure([&] {
             dictionary.AddUserWord(word);

@@ -64,7 +64,7 @@ void PredictWords(benchmark::State& state, const CDictionary& dictionary,
     };
     ask(questions.front());
     std::size_t next = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         const Question& question = questions[next++ % questions.size()];
         percentiles.Measure([&] { ask(question); });
     }
@@ -99,7 +99,7 @@ void PredictSentences(benchmark::State& state, const std::vector<Question>& ques
     for (const Question& question : questions)
         ask(question);
     std::size_t next = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         const Question& question = questions[next++ % questions.size()];
         percentiles.Measure([&] { ask(question); });
     }
@@ -118,7 +118,7 @@ void PlainLoop(benchmark::State& state) {
     const VocabularyTotals totals = FullDictionary().WordTotals();
     std::vector<double> scores;
     Percentiles percentiles;
-    for (auto _ : state)
+    while (state.KeepRunning())
         for (char initial = 'a'; initial <= 'z'; ++initial) {
             const Vocabulary::Run run = words.WithPrefix(TextView(&initial, 1));
             scores.resize(run.Size());

@@ -35,7 +35,7 @@ SaveResult CAbbreviationExpansionSet::Save() {
         return {};
     Text bytes;
     for (const auto& [abbreviation, expansion] : Entries())
-        bytes += abbreviation + " " + expansion + "\n";
+        bytes.append(abbreviation).append(" ").append(expansion).append("\n");
     SaveResult saved = ReplaceFile(path, bytes);
     if (saved)
         changed = false;

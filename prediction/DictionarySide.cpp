@@ -111,6 +111,16 @@ std::vector<Text> DictionarySide::Reload() {
 template <typename Visit>
 void DictionarySide::ForEachKnownPair(TextView bytes, Visit visit) const {
     FieldScanner fields(bytes);
+    Text entryText;
+    Text storedText;
+    const auto find = [&](TextView token) {
+        entryText.assign(token);
+        std::replace(entryText.begin(), entryText.end(), '|', ' ');
+        if (!rules.sentences)
+            return entries.Find(entryText).entry;
+        NormalizeSentence(entryText, storedText);
+        return entries.Find(storedText).entry;
+    };
     TextView previous;
     EntryId first = kNoEntry;
     while (const auto firstToken = fields.Word(rules.tokenLimit)) {
@@ -121,17 +131,13 @@ void DictionarySide::ForEachKnownPair(TextView bytes, Visit visit) const {
         // The files are grouped by first entry.
         if (*firstToken != previous) {
             previous = *firstToken;
-            first = FindToken(previous);
+            first = find(previous);
         }
         if (first == kNoEntry)
             continue;
-        if (const EntryId second = FindToken(*secondToken); second != kNoEntry)
+        if (const EntryId second = find(*secondToken); second != kNoEntry)
             visit(first, second, *count);
     }
-}
-
-EntryId DictionarySide::FindToken(TextView token) const {
-    return Find(BarsToBlanks(token)).entry;
 }
 
 SaveResult DictionarySide::SaveUser() {

@@ -63,7 +63,6 @@ class DictionarySide {
 
   private:
     [[nodiscard]] Text FormOnFile(EntryId entry) const;
-    [[nodiscard]] EntryId FindToken(TextView token) const;
     template <typename Visit>
     void ForEachKnownPair(TextView bytes, Visit visit) const;
     void ChangeUserFrequency(EntryId entry, int value);

@@ -11,9 +11,9 @@ namespace ondrilo {
 namespace {
 
 /// White space of the C library, wider than that of sentences.
-bool IsScanSpace(char c) {
+constexpr auto IsScanSpace = [](char c) {
     return c == ' ' || (c >= '\t' && c <= '\r');
-}
+};
 
 TextView SkipScanSpace(TextView text) {
     return {std::find_if_not(text.begin(), text.end(), IsScanSpace), text.end()};

@@ -37,12 +37,15 @@ Text NormalizeSentence(TextView text) {
 }
 
 void NormalizeSentence(TextView text, Text& normal) {
-    normal.clear();
-    for (const char c : TrimLeft(text))
+    const TextView rest = TrimLeft(text);
+    normal.resize(rest.size());
+    auto end = normal.begin();
+    for (const char c : rest)
         if (!IsWhiteSpace(c))
-            normal += MakeLower(c);
-        else if (normal.back() != ' ')
-            normal += ' ';
+            *end++ = MakeLower(c);
+        else if (end[-1] != ' ')
+            *end++ = ' ';
+    normal.erase(end, normal.end());
 }
 
 Text GetRemainder(TextView complete, TextView typed) {

@@ -92,7 +92,7 @@ TEST_F(DictionarySearch, TheWholeStaysOneSortedTableWhateverThePersonAdds) {
         for (const auto& [second, unused] : table.words)
             if (random() % 8 == 0) {
                 record.next[second].first = 3;
-                pairs += first + " " + second + " 3\n";
+                pairs.append(first).append(" ").append(second).append(" 3\n");
             }
     }
     Write("geral.pal", lines);
