@@ -24,7 +24,7 @@ CTessivorView::CTessivorView(const Environment& environment, const SessionServic
       preview(environment.windows, environment.desktop, targets), learning(userProfiles, targets),
       speech(userProfiles, targets, learning, services), sender(keyboardSimulator, keyboard, state),
       keyboards(environment, userProfiles, keyboard, predictionKeys, predictions, placement, sender, speech,
-                events, services),
+                events, countdowns, services),
       logging(environment, userProfiles, writingClock, state, services),
       targetController(environment, userProfiles, targets, specialKeys, preview, cycle, keyboardSimulator,
                        countdowns, events, services),
@@ -67,7 +67,7 @@ void CTessivorView::OnInitialUpdate() {
     userProfiles.Open(StartProfile());
     session.StartSession();
     // Once in its life the window takes the focus, so that the editor is the first target.
-    if (targets.Internal())
+    if (targets.Internal() && environment.frame.State() != WindowState::Minimized)
         environment.frame.Activate();
 }
 
@@ -109,7 +109,9 @@ void CTessivorView::OnKeyUp(int code, std::int32_t) {
 }
 
 void CTessivorView::OnMenuCommand(int command) {
-    menuController.Execute(command);
+    // While the profile changes, a question may be open: no second change may begin inside the first.
+    if (session.IsRunning())
+        menuController.Execute(command);
 }
 
 void CTessivorView::OnDestroy() {

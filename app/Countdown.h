@@ -17,7 +17,7 @@ class Countdown {
     [[nodiscard]] bool IsStopped() const { return elapsed == kStopped; }
     /// One tick. True if the countdown is due at `limit`; it then stands still until it is stopped or
     /// restarted. Otherwise it goes on, so that a limit of 1,000 is due at the eleventh tick after the start.
-    bool Tick(std::int32_t limit) {
+    bool Tick(std::int64_t limit) {
         if (elapsed == limit && !IsStopped())
             return true;
         if (!IsStopped() && elapsed <= std::numeric_limits<std::int32_t>::max() - kTick)

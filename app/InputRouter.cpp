@@ -123,8 +123,10 @@ bool InputRouter::SelectByHotKey(int code) {
         return false;
     if (keys.lists.words.PositionOf(*key))
         selections.SelectPredictedWordByHotKey(*key, code);
-    else
+    else if (keys.lists.sentences.PositionOf(*key))
         selections.SelectPredictedSentenceByHotKey(*key, code);
+    else // the key stood on a keyboard that has gone
+        return false;
     return true;
 }
 

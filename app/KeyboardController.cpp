@@ -11,10 +11,11 @@ KeyboardController::KeyboardController(const Environment& environment, CUserProf
                                        COnScreenKeyboard& keyboard, PredictionKeys& keys,
                                        Predictions& predictions, WindowPlacement& placement,
                                        KeySender& sender, SpeechController& speech, EventWriter& events,
-                                       const SessionServices& services)
-    : frame(environment.frame), windows(environment.windows), boxes(environment.boxes), profiles(profiles),
-      keyboard(keyboard), keys(keys), predictions(predictions), placement(placement), sender(sender),
-      speech(speech), events(events), services(services) {
+                                       Countdowns& countdowns, const SessionServices& services)
+    : queue(environment.queue), frame(environment.frame), windows(environment.windows),
+      boxes(environment.boxes), profiles(profiles), keyboard(keyboard), keys(keys), predictions(predictions),
+      placement(placement), sender(sender), speech(speech), events(events), countdowns(countdowns),
+      services(services) {
 }
 
 void KeyboardController::LoadKeyboard(TextView name) {
@@ -47,8 +48,7 @@ void KeyboardController::ShowLoggingState() {
 
 void KeyboardController::CloseKeyboard() {
     keys.Unbind();
-    if (keyboard.IsModified() &&
-        boxes.AskYesNo("O teclado corrente foi alterado. Pretende guardar as alterações?"_w) == Answer::Yes) {
+    if (keyboard.IsModified() && WantsToKeepChanges()) {
         const auto saved = keyboard.Save();
         if (!saved)
             frame.SetStatusMessage(saved.problem);
@@ -56,6 +56,15 @@ void KeyboardController::CloseKeyboard() {
     placement.SetKeyboardWindow(nullptr);
     keyboardWindow.reset();
     keyboard.Close();
+}
+
+bool KeyboardController::WantsToKeepChanges() {
+    // Neither another link nor a new context may take the keyboard away while the person decides about it.
+    const MessageQueue::Hold hold(queue);
+    countdowns.context.Stop();
+    const auto answer = boxes.AskYesNo("O teclado corrente foi alterado. Pretende guardar as alterações?"_w);
+    countdowns.context.Restart();
+    return answer == Answer::Yes;
 }
 
 void KeyboardController::FollowKeyboardLink(COnScreenKeyIdentifier key, const ActionOrigin& origin) {
@@ -67,8 +76,12 @@ void KeyboardController::FollowKeyboardLink(COnScreenKeyIdentifier key, const Ac
     CloseKeyboard();
     profiles.Active().properties.activeKeyboardName = name;
     LoadKeyboard(name);
+    // A keyboard of the former one's size exposes nothing by itself, and its prediction keys would stay
+    // empty.
+    frame.Redraw();
     placement.RefreshTitle();
     Announce();
+    frame.Redraw(); // so that the predictions go onto the new keys
 }
 
 } // namespace ondrilo

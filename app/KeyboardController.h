@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Countdown.h"
 #include "app/EventWriter.h"
 #include "app/KeySender.h"
 #include "app/PredictionKeys.h"
@@ -14,7 +15,7 @@ class KeyboardController {
     KeyboardController(const Environment& environment, CUserProfileSet& profiles, COnScreenKeyboard& keyboard,
                        PredictionKeys& keys, Predictions& predictions, WindowPlacement& placement,
                        KeySender& sender, SpeechController& speech, EventWriter& events,
-                       const SessionServices& services);
+                       Countdowns& countdowns, const SessionServices& services);
 
     /// A file that breaks off is told in the status line; what stands before that is on show.
     void LoadKeyboard(TextView name);
@@ -28,6 +29,9 @@ class KeyboardController {
     void ShowLoggingState();
 
   private:
+    [[nodiscard]] bool WantsToKeepChanges();
+
+    MessageQueue& queue;
     FrameWindow& frame;
     SessionWindows& windows;
     MessageBoxes& boxes;
@@ -39,6 +43,7 @@ class KeyboardController {
     KeySender& sender;
     SpeechController& speech;
     EventWriter& events;
+    Countdowns& countdowns;
     SessionServices services;
     std::unique_ptr<KeyboardWindow> keyboardWindow;
 };

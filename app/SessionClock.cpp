@@ -58,7 +58,8 @@ void SessionClock::OnTimer() {
         AdaptToContext();
     if (services.cooperation.IsUp() && countdowns.cooperative.Tick(kCooperativePeriod))
         ReadHints();
-    if (countdowns.idle.Tick(Options().Get(option::TEMPO_INACTIVIDADE_COMUNICACAO) * 1000))
+    const std::int64_t silence = Options().Get(option::TEMPO_INACTIVIDADE_COMUNICACAO);
+    if (countdowns.idle.Tick(silence * 1000))
         PauseWriting();
 }
 

@@ -86,6 +86,7 @@ void SessionController::CreatePreview() {
 void SessionController::StopSession() {
     if (!running)
         return;
+    running = false;
     const MessageQueue::Hold hold(queue);
     logging.EndLog();
     if (services.cooperation.IsUp())
@@ -101,7 +102,6 @@ void SessionController::StopSession() {
     keyboards.CloseKeyboard();
     placement.ClearBackground();
     services.speech.Release();
-    running = false;
     frame.Redraw();
     queue.Clear();
 }

@@ -26,6 +26,7 @@ class SessionController {
     void StopSession();
     /// `withNotice`: a notice stands while the new profile loads.
     void ChangeProfile(TextView name, bool withNotice = false);
+    /// False from the first step of an end on, and between two sessions.
     [[nodiscard]] bool IsRunning() const { return running; }
 
   private:

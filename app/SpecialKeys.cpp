@@ -1,6 +1,13 @@
 #include "app/SpecialKeys.h"
 
+#include <algorithm>
+
 namespace ondrilo {
+namespace {
+
+constexpr int kNoKeyFromHere = 256; // key codes are bytes
+
+} // namespace
 
 SpecialKeys::SpecialKeys(const CUserProfileSet& profiles, const CKeySet& keySet, const Targets& targets)
     : profiles(profiles), keySet(keySet), targets(targets) {
@@ -10,7 +17,7 @@ void SpecialKeys::MapSpecialKeys() {
     Unblock();
     Map(switch1Key, option::TECLA_MANIPULO1);
     Map(switch2Key, option::TECLA_MANIPULO2);
-    firstHotKey = profiles.Active().properties.Get(option::TECLAS_COMPLETAR);
+    firstHotKey = std::min(profiles.Active().properties.Get(option::TECLAS_COMPLETAR), kNoKeyFromHere);
     lastHotKey = firstHotKey + 9;
     if (targets.Current() && firstHotKey != 0)
         targets.Current()->BlockKeys(firstHotKey, lastHotKey);

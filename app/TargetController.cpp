@@ -64,6 +64,9 @@ void TargetController::OnFocusChange() {
 
 void TargetController::AttachForeground() {
     lastForegroundWindow = desktop.ForegroundWindow();
+    // A program that ends may leave the focus nowhere, and what the person clicks would be lost.
+    if (lastForegroundWindow == 0 && targets.Internal() && frame.State() != WindowState::Minimized)
+        frame.Activate();
     AttachTarget();
 }
 

@@ -15,12 +15,15 @@
 #include "platform/x11/X11KeyOutput.h"
 
 #include <QApplication>
+#include <QTimer>
 
 #include <clocale>
 #include <cstdlib>
 
 namespace ondrilo {
 namespace {
+
+constexpr int kLendingPause = 200; // milliseconds
 
 UserFolders FoldersOfThisPerson() {
     return UserFolders::FromEnvironment([](const std::string& name) {
@@ -36,7 +39,7 @@ int Run(const std::filesystem::path& dataFolder, QtDesktop& desktop, QtMessageBo
     MessageQueue queue;
     QtClock clock;
     QtTimerService timers(clock);
-    X11KeyOutput keys;
+    X11KeyOutput keys(X11KeyOutput::Lending::WhenAsked);
     CanberraSoundPlayer sounds([] { QApplication::beep(); });
     PosixProgramStarter programs;
     QtTextMeasure textMeasure;
@@ -64,6 +67,13 @@ int Run(const std::filesystem::path& dataFolder, QtDesktop& desktop, QtMessageBo
     const QtQueuePump pump(queue, [&view](const MessageEvent& event) { view.Handle(event); });
     const QuitSignals quitSignals([&frame] { frame.Close(); });
     view.OnInitialUpdate();
+    // Not before: a window manager that is busy with changes of the keyboard would show the window late.
+    QTimer lending;
+    QObject::connect(&lending, &QTimer::timeout, &lending, [&keys, &lending] {
+        if (!keys.LendNext())
+            lending.stop();
+    });
+    lending.start(kLendingPause);
     return QApplication::exec();
 }
 

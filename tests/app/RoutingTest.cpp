@@ -191,5 +191,20 @@ TEST_F(RunningSystem, LinksSequencesAndProgramsDoNotWrite) {
     EXPECT_EQ(Options().Get(option::NOME_TECLADO), "Casa");
 }
 
+TEST_F(RunningSystem, AHotKeyOfAKeyboardThatWentWritesNothingAndTheNewKeysGetTheirs) {
+    folder.Write("geral.frs", "___ 1\nbom|dia. 3\n");
+    folder.Write("geral.paf", "___ bom|dia. 3\n");
+    folder.Write("outro.tec", "LINHA L\nGRUPO G\nTECLA TECLA_NORMAL x x x\nTECLA TECLA_PREDICAO_FRASE\n");
+    StartWriting();
+    Click("outro.tec");
+    EXPECT_TRUE(journal.Has("redraw"));
+    Press(vk::F1);
+    EXPECT_EQ(Written(), "") << "it stood for a word that is on no key now";
+    frame.listener->OnDraw();
+    EXPECT_EQ(Labels(0), Texts("x", "F1: bom dia."));
+    Press(vk::F1);
+    EXPECT_EQ(Written(), "bom dia. ");
+}
+
 } // namespace
 } // namespace ondrilo

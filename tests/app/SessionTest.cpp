@@ -72,6 +72,46 @@ TEST_F(RunningSystem, AnUnsavedKeyboardIsAskedAboutWithoutAWayBack) {
     EXPECT_EQ(folder.Read("outro.tec"), before);
 }
 
+TEST_F(RunningSystem, WhileAKeyboardIsAskedAboutNothingElseTakesItAway) {
+    StartWriting();
+    boxes.answers = {Answer::No, Answer::No};
+    dialogs.chosenProfile = "ana";
+    view->Keyboard().MarkModified();
+    boxes.whileAsked = [this] {
+        queue.Post(Message::UM_KEY_PRESS, KeyOf("outro.tec").Packed());
+        Drain();
+        EXPECT_EQ(boxes.shown.size(), 1U) << "a second link";
+    };
+    Click("outro.tec");
+    EXPECT_EQ(Options().activeKeyboardName, "outro");
+
+    view->Keyboard().MarkModified();
+    boxes.whileAsked = [this] {
+        frame.listener->OnMenuCommand(menu::OpenProfile);
+        frame.listener->OnKeyDown('A', 0);
+        EXPECT_EQ(boxes.shown.size(), 2U) << "a second change of profile";
+    };
+    frame.listener->OnMenuCommand(menu::OpenProfile);
+    EXPECT_EQ(Options().profileName, "ana");
+}
+
+TEST_F(RunningSystem, AWindowThatIsToStartMinimizedStaysSo) {
+    SetOptions("INICIAR_JANELA_MINIMIZADA 1\n");
+    Start();
+    EXPECT_EQ(frame.state, WindowState::Minimized);
+    EXPECT_FALSE(journal.Has("activate"));
+}
+
+TEST_F(RunningSystem, HugeNumbersInAProfileHarmNothing) {
+    StartWriting("TECLAS_COMPLETAR 2147483647\nTEMPO_INACTIVIDADE_COMUNICACAO 2147483647\n"
+                 "TEMPO_DE_PREDICAO -2147483648\n");
+    Type("tu");
+    Pause();
+    EXPECT_EQ(Labels(0)[0], ": olá"_w);
+    Click({0, 0, 1});
+    EXPECT_EQ(Written(), "tudo ");
+}
+
 TEST_F(RunningSystem, NoMessageIsHandledWhileASessionStops) {
     StartWriting();
     Click(KeyOf("Shift"));

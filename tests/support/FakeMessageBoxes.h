@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <functional>
 
 namespace ondrilo {
 
@@ -23,11 +24,14 @@ class FakeMessageBoxes : public MessageBoxes {
 
     std::vector<Text> shown; ///< messages and questions in their order
     std::deque<Answer> answers;
+    std::function<void()> whileAsked; ///< what happens in the loop of a question
     Answer lastPreselected = Answer::Yes;
 
   private:
     Answer Ask(TextView question) {
         shown.emplace_back(question);
+        if (whileAsked)
+            whileAsked();
         if (answers.empty()) {
             ADD_FAILURE() << "asked: " << ToUtf8(question);
             return Answer::Cancel;
