@@ -38,20 +38,26 @@ SpareKeys::SpareKeys(const X11Connection& connection)
     : connection(connection), record(connection.Atom("_ONDRILO_SPARE_KEYS")) {
 }
 
-void SpareKeys::Attach(const std::function<bool(char32_t)>& canWrite) {
+void SpareKeys::Attach() {
     const auto before = std::exchange(spares, ReadLent());
     for (auto& spare : spares)
         for (const auto& old : before)
             if (old.keycode == spare.keycode && old.lent == spare.lent)
                 spare = old;
+}
+
+bool SpareKeys::LendNext(const std::function<bool(char32_t)>& canWrite) {
     for (const char c : kPortugueseCharacters) {
         const char upper = MakeUpper(c);
         if (canWrite(CodePointOf(c)) && canWrite(CodePointOf(upper)))
             continue;
         auto* spare = Find(PairOf(c)) ? nullptr : LeastUsed();
-        if (spare && spare->lent == Pair{})
-            Lend(*spare, PairOf(c));
+        if (!spare || spare->lent != Pair{})
+            continue;
+        Lend(*spare, PairOf(c));
+        return true;
     }
+    return false;
 }
 
 std::optional<KeyStroke> SpareKeys::StrokeOf(char c) {

@@ -21,9 +21,11 @@ class SpareKeys {
   public:
     explicit SpareKeys(const X11Connection& connection);
 
-    /// Finds the spare keycodes anew, after the start or a change of the keyboard, and lends the Portuguese
-    /// letters and signs that `canWrite` does not know.
-    void Attach(const std::function<bool(char32_t)>& canWrite);
+    /// Finds the spare keycodes anew, after the start or a change of the keyboard.
+    void Attach();
+    /// Lends a keycode to the next of the Portuguese letters and signs that `canWrite` does not know; false
+    /// if there is none left to lend.
+    bool LendNext(const std::function<bool(char32_t)>& canWrite);
     /// The stroke for a character; where it is newly lent, waits until programs can have noticed.
     [[nodiscard]] std::optional<KeyStroke> StrokeOf(char c);
     /// Takes everything back.

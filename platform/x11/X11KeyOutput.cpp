@@ -32,7 +32,7 @@ struct LockState {
 
 class X11KeyOutput::Implementation {
   public:
-    Implementation();
+    explicit Implementation(Lending lending);
     ~Implementation();
 
     [[nodiscard]] bool IsAvailable() const { return map.has_value(); }
@@ -42,6 +42,7 @@ class X11KeyOutput::Implementation {
     [[nodiscard]] LockState State() const;
     /// The map of the layout in effect; brought up to date first.
     const KeyboardMap& Map(unsigned layout);
+    bool LendNext();
 
     X11Connection connection;
 
@@ -65,6 +66,7 @@ class X11KeyOutput::Implementation {
     KeyGuardian guardian;
     PersonsKeys person{connection};
     SpareKeys spares{connection};
+    Lending lending;
     std::shared_ptr<xkb_keymap> keymap;
     std::optional<KeyboardMap> map;
     bool isStale = true;
@@ -75,7 +77,7 @@ class X11KeyOutput::Implementation {
     std::chrono::steady_clock::time_point lastTyped;
 };
 
-X11KeyOutput::Implementation::Implementation() {
+X11KeyOutput::Implementation::Implementation(Lending lending) : lending(lending) {
     if (!connection.Has(xcb_test_id) || !context)
         return;
     if (!xkb_x11_setup_xkb_extension(connection.Get(), XKB_X11_MIN_MAJOR_XKB_VERSION,
@@ -130,10 +132,19 @@ const KeyboardMap& X11KeyOutput::Implementation::Map(unsigned layout) {
         ReadKeymap();
     if (isStale || map->Layout() != layout) {
         map.emplace(keymap, layout);
-        spares.Attach([this](char32_t character) { return map->StrokeOf(character).has_value(); });
+        spares.Attach();
         isStale = false;
+        while (lending == Lending::AtOnce && LendNext()) {
+        }
     }
     return *map;
+}
+
+bool X11KeyOutput::Implementation::LendNext() {
+    if (spares.LendNext([this](char32_t character) { return map->StrokeOf(character).has_value(); }))
+        return true;
+    lending = Lending::AtOnce;
+    return false;
 }
 
 LockState X11KeyOutput::Implementation::State() const {
@@ -284,7 +295,7 @@ void X11KeyOutput::Implementation::Up(int code) {
         PutBackPersonsModifiers();
 }
 
-X11KeyOutput::X11KeyOutput() : implementation(std::make_unique<Implementation>()) {
+X11KeyOutput::X11KeyOutput(Lending lending) : implementation(std::make_unique<Implementation>(lending)) {
 }
 
 X11KeyOutput::~X11KeyOutput() = default;
@@ -312,6 +323,13 @@ void X11KeyOutput::KeyDown(int code) {
 void X11KeyOutput::KeyUp(int code) {
     if (IsAvailable())
         implementation->Up(code);
+}
+
+bool X11KeyOutput::LendNext() {
+    if (!IsAvailable())
+        return false;
+    implementation->Map(implementation->State().layout);
+    return implementation->LendNext();
 }
 
 bool X11KeyOutput::IsCapsLockOn() const {

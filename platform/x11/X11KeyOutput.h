@@ -15,7 +15,13 @@ namespace ondrilo {
 /// process, a kill included.
 class X11KeyOutput : public KeyOutput {
   public:
-    X11KeyOutput();
+    /// When spare keycodes go to the Portuguese characters that the layout lacks. Each one changes the
+    /// keyboard's map, which keeps a window manager and every other program busy for a while.
+    enum class Lending {
+        AtOnce,
+        WhenAsked, ///< by LendNext, one a call; or when a character is typed that needs one
+    };
+    explicit X11KeyOutput(Lending lending = Lending::AtOnce);
     ~X11KeyOutput() override;
 
     /// False if there is no X server with the extensions needed; then nothing is typed.
@@ -25,6 +31,8 @@ class X11KeyOutput : public KeyOutput {
     void KeyDown(int code) override;
     void KeyUp(int code) override;
     [[nodiscard]] bool IsCapsLockOn() const override;
+    /// False once all are lent; from then on a change of the keyboard has them lent anew at once.
+    bool LendNext();
     /// The name of a virtual key for the log: that of a special key, or what the key writes on the layout.
     [[nodiscard]] Text KeyName(int code) const override;
 
