@@ -19,6 +19,8 @@ class Percentiles {
         allocations += CountAllocations() - before;
         microseconds.push_back(end - start);
     }
+    /// A call that was timed elsewhere.
+    void Add(double time) { microseconds.push_back(time); }
     /// Counters p50_us, p99_us, max_us and allocations (all calls together).
     void Report(benchmark::State& state);
 
