@@ -40,36 +40,32 @@ void AddPictogram(TextView text, Tokens& readings, Tokens& pictograms) {
     pictograms.emplace_back(text);
 }
 
-} // namespace
+using Test = bool (*)(TextView);
 
-FilteredResults FilterWords(std::span<const DictionaryScore> best, const ResultLimits& limits) {
+FilteredResults Filter(std::span<const DictionaryScore> best, const ResultLimits& limits, Test isPictogram,
+                       Test isPlain) {
     const Unwanted unwanted(limits);
     FilteredResults kept;
     Tokens readings;
     for (const auto& [text, score] : best) {
         if (unwanted.In(text))
             continue;
-        if (IsPictogramToken(text))
+        if (isPictogram(text))
             AddPictogram(text, readings, kept.pictograms);
-        else if (IsSingleWord(text) && IsShortEnough(text, limits))
+        else if (isPlain(text) && IsShortEnough(text, limits))
             kept.plain.emplace_back(text);
     }
     return kept;
 }
 
+} // namespace
+
+FilteredResults FilterWords(std::span<const DictionaryScore> best, const ResultLimits& limits) {
+    return Filter(best, limits, IsPictogramToken, IsSingleWord);
+}
+
 FilteredResults FilterSentences(std::span<const DictionaryScore> best, const ResultLimits& limits) {
-    const Unwanted unwanted(limits);
-    FilteredResults kept;
-    Tokens readings;
-    for (const auto& [text, score] : best) {
-        if (unwanted.In(text))
-            continue;
-        if (IsAllPictograms(text))
-            AddPictogram(text, readings, kept.pictograms);
-        else if (HasNoPictograms(text) && IsShortEnough(text, limits))
-            kept.plain.emplace_back(text);
-    }
-    return kept;
+    return Filter(best, limits, IsAllPictograms, HasNoPictograms);
 }
 
 } // namespace ondrilo
