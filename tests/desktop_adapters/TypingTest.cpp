@@ -1,6 +1,7 @@
 #include "Support.h"
 #include "platform/qt/QtConversion.h"
 #include "platform/qt/QtDesktop.h"
+#include "platform/qt/QtQueuePump.h"
 #include "platform/x11/X11KeyOutput.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -44,6 +45,19 @@ class Typing : public testing::Test {
     QPlainTextEdit box;
     bool hasFocus = false;
 };
+
+TEST_F(Typing, EachKeyOfABurstIsHandledBeforeTheNextOneArrives) {
+    ASSERT_TRUE(hasFocus);
+    X11KeyOutput keys;
+    MessageQueue queue;
+    std::vector<Text> seen;
+    const QtQueuePump pump(queue, [&](const MessageEvent&) { seen.push_back(Written()); });
+    QObject::connect(&box, &QPlainTextEdit::textChanged, [&] { queue.Post(Message::UM_CHAR); });
+    Type(keys, "um a");
+    ASSERT_TRUE(Eventually([&] { return seen.size() == 4; }));
+    EXPECT_EQ(seen, (std::vector<Text>{"u", "um", "um ", "um a"}));
+    box.disconnect();
+}
 
 TEST_F(Typing, NothingIsLostOrReorderedAtFullSpeedOnAnyLayout) {
     ASSERT_TRUE(hasFocus);
@@ -199,6 +213,21 @@ TEST_F(Typing, NothingOfTheKeyboardChangesForGood) {
         EXPECT_NE(server.Symbols(), before);
     }
     EXPECT_EQ(server.Symbols(), before);
+}
+
+TEST_F(Typing, AStartThatLendsLaterLeavesTheMapAloneAndStillWritesAccents) {
+    ASSERT_TRUE(hasFocus);
+    SetLayout("us");
+    const auto before = server.Symbols();
+    X11KeyOutput keys(X11KeyOutput::Lending::WhenAsked);
+    EXPECT_EQ(server.Symbols(), before);
+    Type(keys, "Olá, avó"_w);
+    ExpectWritten("Olá, avó"_w);
+    EXPECT_TRUE(keys.LendNext());
+    while (keys.LendNext()) {
+    }
+    Type(keys, " não é"_w);
+    ExpectWritten(" não é"_w);
 }
 
 TEST_F(Typing, AKilledRunLeavesNothingPressedAndItsSpareKeysAreFoundAgain) {
