@@ -67,7 +67,7 @@ class Desktop:
                                                                '--print-address=1'])
         self.start(['openbox'])
         wait_for(lambda: b'window id' in subprocess.run(['xprop', '-root', '_NET_SUPPORTING_WM_CHECK'],
-                                                        capture_output=True).stdout, 'the window manager')
+                                                        capture_output=True).stdout, 'the window manager', 60)
 
     def _answer(self, command):
         """Starts a server and reads the one line in which it says where it can be reached."""
