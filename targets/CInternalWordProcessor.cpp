@@ -163,10 +163,17 @@ void CInternalWordProcessor::Type(TextView text) {
     keyboard.TypeText(text);
 }
 
+/// At the end of what is selected, which typing would replace: the rest of a word without its beginning.
+void CInternalWordProcessor::TypeRest(TextView text) {
+    const int cursor = textBox->SelectionEnd();
+    textBox->ClearRange(cursor, cursor);
+    Type(text);
+}
+
 void CInternalWordProcessor::WriteWord(TextView word) {
     const Text typed = GetCurrentWordLeft();
     if (BeginsWith(word, typed) && !typed.empty())
-        return Type(WithBlank(GetRemainder(word, typed)));
+        return TypeRest(WithBlank(GetRemainder(word, typed)));
     DeleteCurrentWordLeft();
     Type(WithBlank(word));
 }
@@ -177,7 +184,7 @@ void CInternalWordProcessor::WriteSentence(TextView sentence) {
     if (typed.empty())
         return Type(WithBlank(sentence));
     if (BeginsWith(sentence, typed))
-        return Type(WithBlank(GetRemainder(sentence, typed)));
+        return TypeRest(WithBlank(GetRemainder(sentence, typed)));
     DeleteCurrentSentenceLeft();
     // The blank that the deletion keeps may be the line break; otherwise the paragraph would vanish.
     auto hasLineBreak = [](TextView text) {

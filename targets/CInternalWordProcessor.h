@@ -101,6 +101,7 @@ class CInternalWordProcessor : public CWordProcessor, private TextSurfaceListene
     void DeleteRight(std::size_t length);
     void ClearRange(int start, int end);
     void Type(TextView text);
+    void TypeRest(TextView text);
 
     std::unique_ptr<TextSurface> textBox;
     CKeyboard& keyboard;

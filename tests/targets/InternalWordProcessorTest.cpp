@@ -63,6 +63,17 @@ TEST_F(EditorTest, ACompletedWordKeepsWhatWasTypedAndAddsTheRestInSmallLetters) 
     EXPECT_TRUE(box.hasFocus);
 }
 
+TEST_F(EditorTest, ACompletionTakesNothingAwayThatIsSelected) {
+    box.SetText("um ca");
+    box.Select(0, 5);
+    editor.WriteWord("casa");
+    EXPECT_EQ(box.text, "um casa ");
+    box.SetText("Bom di");
+    box.Select(0, 6);
+    editor.WriteSentence("bom dia.");
+    EXPECT_EQ(box.text, "Bom dia. ");
+}
+
 TEST_F(EditorTest, AWordThatDoesNotContinueWhatWasTypedReplacesIt) {
     box.SetText("um ca");
     editor.WriteWord("gato");
