@@ -4,6 +4,8 @@
 #include "platform/x11/KeySymbols.h"
 #include "targets/CKeyboard.h"
 
+#include <xkbcommon/xkbcommon-keysyms.h>
+
 namespace ondrilo {
 namespace {
 
@@ -42,6 +44,9 @@ std::vector<int> VirtualKeysOf(const QKeyEvent& event, const KeyOutput& layout) 
     if (writes && !event.modifiers().testFlag(Qt::KeypadModifier))
         if (const auto key = layout.KeyOf(c))
             return {key->code};
+    // Counted like that for the characters that need it, and so counted back.
+    if (event.nativeVirtualKey() == XKB_KEY_ISO_Level3_Shift)
+        return {vk::Control, vk::Alt};
     if (const auto code = VirtualKeyOf(event.nativeVirtualKey()))
         return {*code};
     if (!writes)

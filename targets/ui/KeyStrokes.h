@@ -15,7 +15,7 @@ inline constexpr int kUnknownKey = 231;
 
 /// The virtual keys that the event stands for, in the order in which they go down. Most often one; a letter
 /// whose accent has a dead key of its own on the layout is the accent, the letter and the modifiers that they
-/// need and that are not down already, whichever way it came.
+/// need and that are not down already, whichever way it came; AltGr is Control and Alt.
 [[nodiscard]] std::vector<int> VirtualKeysOf(const QKeyEvent& event, const KeyOutput& layout);
 /// The same for a character that an input method composed.
 [[nodiscard]] std::vector<int> VirtualKeysOf(char c, Qt::KeyboardModifiers down, const KeyOutput& layout);

@@ -103,6 +103,15 @@ TEST_F(TextBoxTest, ASignWithShiftIsTheKeyThatWritesItOnTheLayout) {
     EXPECT_THAT(listener.told, ElementsAre("down 55", "char /", "up 55"));
 }
 
+TEST_F(TextBoxTest, ASignWithAltGrComesAsAllTheKeysThatItWasCountedAs) {
+    Key(Qt::Key_AltGr, XKB_KEY_ISO_Level3_Shift, "");
+    EXPECT_THAT(listener.told, ElementsAre("down 17", "down 18", "up 18", "up 17"));
+    Key(Qt::Key_At, XKB_KEY_at, "@");
+    const auto downs = std::count_if(listener.told.begin(), listener.told.end(),
+                                     [](const Text& told) { return told.starts_with("down"); });
+    EXPECT_EQ(downs, CKeyboard(layout).CountKeys("@"));
+}
+
 TEST_F(TextBoxTest, TheNumericPadHasCodesOfItsOwn) {
     Key(Qt::Key_5, XKB_KEY_KP_5, "5", Qt::KeypadModifier);
     EXPECT_THAT(listener.told, ElementsAre("down 101", "char 5", "up 101"));
@@ -154,6 +163,22 @@ TEST_F(TextBoxTest, CopiesPlainTextWithoutPicturesAndUndoesACut) {
     EXPECT_EQ(box.PlainText(), "");
     box.undo();
     EXPECT_EQ(box.Pictures().size(), 1U);
+}
+
+TEST_F(TextBoxTest, UndoingTakesBackAWordOrAPasteAndNotTheWholeText) {
+    const auto writeSpace = [this] {
+        Key(Qt::Key_Space, XKB_KEY_space, " ");
+    };
+    Write("um");
+    writeSpace();
+    Write("dois");
+    QApplication::clipboard()->setText("!");
+    box.paste();
+    box.paste();
+    for (const char* left : {"um dois!", "um dois", "um ", ""}) {
+        box.undo();
+        EXPECT_EQ(box.PlainText(), left);
+    }
 }
 
 TEST_F(TextBoxTest, ANewFontReachesWhatStandsThereAndIsNoStepToUndo) {
