@@ -228,8 +228,10 @@ void CMainFrame::OnExposed() {
 
 void CMainFrame::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
+    // The former place is told after the former state: a size asked for in between would come with the place
+    // of the maximised window.
     if (event->type() == QEvent::WindowStateChange && !isMinimized())
-        queue.Post(Message::UM_LAYOUT);
+        QTimer::singleShot(isMaximized() ? 0 : kSettleTime, this, [this] { queue.Post(Message::UM_LAYOUT); });
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
         activated = true;
         TellLater(&FrameWindowListener::OnActivateView);

@@ -29,11 +29,16 @@ class X11Windows::Implementation {
         hasResources = queries.Has(xcb_res_id);
         ourProcess = ProcessOf(xcb_generate_id(queries.Get()));
         last = Foreground();
+        if (last != XCB_WINDOW_NONE)
+            WatchForItsEnd(last);
     }
 
     [[nodiscard]] bool IsAvailable() const { return events.IsOpen() && queries.IsOpen(); }
+    /// None if a window manager still names a window that is gone.
     [[nodiscard]] xcb_window_t Foreground() const {
-        return IsAvailable() ? queries.Property(queries.Root(), activeWindow) : xcb_window_t{XCB_WINDOW_NONE};
+        const auto window =
+            IsAvailable() ? queries.Property(queries.Root(), activeWindow) : xcb_window_t{XCB_WINDOW_NONE};
+        return window != XCB_WINDOW_NONE && Exists(window) ? window : xcb_window_t{XCB_WINDOW_NONE};
     }
     void Activate(xcb_window_t window);
     [[nodiscard]] std::string Text(xcb_window_t window, xcb_atom_t property, xcb_atom_t& type) const;
@@ -59,6 +64,7 @@ class X11Windows::Implementation {
 
   private:
     [[nodiscard]] std::uint32_t ProcessOf(std::uint32_t resource) const;
+    void WatchForItsEnd(xcb_window_t window);
 };
 
 void X11Windows::Implementation::Activate(xcb_window_t window) {
@@ -121,18 +127,31 @@ std::uint32_t X11Windows::Implementation::ProcessOf(std::uint32_t resource) cons
     return 0;
 }
 
+void X11Windows::Implementation::WatchForItsEnd(xcb_window_t window) {
+    const std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+    xcb_change_window_attributes(events.Get(), window, XCB_CW_EVENT_MASK, &mask);
+    events.Flush();
+}
+
 void X11Windows::Implementation::ProcessEvents() {
     bool moved = false;
+    bool ended = false;
     while (const auto event = Owned(xcb_poll_for_event(events.Get()))) {
+        const auto type = event->response_type & 0x7F;
         const auto* change = reinterpret_cast<const xcb_property_notify_event_t*>(event.get());
-        moved |= (event->response_type & 0x7F) == XCB_PROPERTY_NOTIFY && change->atom == activeWindow;
+        const auto* end = reinterpret_cast<const xcb_destroy_notify_event_t*>(event.get());
+        moved |= type == XCB_PROPERTY_NOTIFY && change->atom == activeWindow;
+        ended |= type == XCB_DESTROY_NOTIFY && end->window == last;
     }
-    if (!moved)
+    if (!moved && !ended)
         return;
     const auto now = Foreground();
-    // Between two windows a window manager may tell of no window at all for a moment.
-    if (now == XCB_WINDOW_NONE || std::exchange(last, now) == now)
+    // Between two windows a window manager may tell of no window at all for a moment; at the end of a window
+    // it may tell nothing at all.
+    if ((now == XCB_WINDOW_NONE && !ended) || std::exchange(last, now) == now)
         return;
+    if (now != XCB_WINDOW_NONE)
+        WatchForItsEnd(now);
     const auto called = *observers;
     for (const auto& [number, changed] : called)
         if (observers->contains(number))

@@ -178,6 +178,8 @@ void CTextBox::keyPressEvent(QKeyEvent* event) {
     else if (!IsWritable(event->text()))
         return;
     QTextEdit::keyPressEvent(event);
+    if (event->key() == Qt::Key_Space)
+        EndUndoStep();
 }
 
 void CTextBox::keyReleaseEvent(QKeyEvent* event) {
@@ -243,9 +245,16 @@ bool CTextBox::canInsertFromMimeData(const QMimeData* source) const {
 }
 
 void CTextBox::insertFromMimeData(const QMimeData* source) {
+    EndUndoStep();
     // Through Windows-1252 and back: what it lacks becomes "?".
     ReplaceSelection(FromQString(source->text()));
+    EndUndoStep();
     ensureCursorVisible();
+}
+
+/// A document joins what is typed in a row into one step of undoing, except where it counts as saved.
+void CTextBox::EndUndoStep() {
+    document()->setModified(false);
 }
 
 } // namespace ondrilo

@@ -57,6 +57,7 @@ class CTextBox : public QTextEdit, public TextSurface {
   private:
     [[nodiscard]] QTextCursor Range(int start, int end) const;
     bool ReportButton(QMouseEvent* event, bool down);
+    void EndUndoStep();
     [[nodiscard]] bool ReportKeysDown(const std::vector<int>& codes, std::int32_t keyData);
     void ReportKeysUp(const std::vector<int>& codes, std::int32_t keyData);
     void ReportCharacter(char c, std::int32_t keyData);

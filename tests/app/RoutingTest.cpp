@@ -103,6 +103,17 @@ TEST_F(RunningSystem, TheFocusSettlesBeforeTheTargetChanges) {
     desktop.programs[2] = 100;
     desktop.MoveFocus(2);
     EXPECT_TRUE(view->TextTargets().IsInternal()) << "another window of the same program keeps the target";
+
+    desktop.MoveFocus(0);
+    journal.Take();
+    Tick(6);
+    EXPECT_TRUE(journal.Has("activate")) << "where nothing has the focus, clicks would write nowhere";
+    frame.state = WindowState::Minimized;
+    desktop.MoveFocus(7);
+    desktop.MoveFocus(0);
+    journal.Take();
+    Tick(6);
+    EXPECT_FALSE(journal.Has("activate")) << "a minimised window would come back";
 }
 
 TEST_F(RunningSystem, WhatIsWrittenIsHeardAsTheProfileWants) {
@@ -184,7 +195,9 @@ TEST_F(RunningSystem, LinksSequencesAndProgramsDoNotWrite) {
     Click("{Ctrl+a Ctrl+c}");
     EXPECT_EQ(keys.events,
               Texts("down 17", "down 65", "up 65", "up 17", "down 17", "down 67", "up 67", "up 17"));
+    journal.Take();
     Click("outro.tec");
+    EXPECT_TRUE(journal.Has("redraw")) << "a keyboard of the same size would show no predictions";
     EXPECT_EQ(frame.title, "Ondrilo V3.0: generico (outro) (Logging Desligado)");
     EXPECT_EQ(services.speech.spoken, Texts("O outro"));
     EXPECT_EQ(Written(), "bom ") << "the text stays when the keyboard changes";
