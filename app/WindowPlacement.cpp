@@ -54,7 +54,10 @@ void WindowPlacement::FillMaximizedWindow() {
 }
 
 void WindowPlacement::FitWindow() {
-    const auto size = keyboard.GetSize();
+    constexpr int kWidthWithoutKeys = 600; // pixels: a window with nothing to follow must stay in sight
+    auto size = keyboard.GetSize();
+    if (size.width == 0)
+        size.width = kWidthWithoutKeys;
     const int editorHeight = EditorHeight();
     PlaceEditor(size.width, {0, 0});
     PlaceKeyboard({0, editorHeight});

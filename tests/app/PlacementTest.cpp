@@ -103,5 +103,11 @@ TEST_F(RunningSystem, TheWindowKeepsAwayFromTheCaretOrFollowsIt) {
     EXPECT_EQ(frame.position, (Point{1, 2}));
 }
 
+TEST_F(RunningSystem, AWindowWithoutAKeyboardStaysInSight) {
+    SetOptions("NOME_TECLADO não;;;há\n"_w);
+    Start();
+    EXPECT_GT(frame.client.width, 250);
+}
+
 } // namespace
 } // namespace ondrilo
