@@ -26,6 +26,7 @@ namespace {
 constexpr int kMostRefusals = 10;
 constexpr int kRefusalMemory = 1000; // milliseconds
 constexpr int kSettleTime = 200;     // milliseconds
+constexpr int kTakeover = 2000;      // milliseconds; what shows later was asked for by the person
 
 } // namespace
 
@@ -100,6 +101,8 @@ void CMainFrame::Show(WindowState state) {
     case WindowState::Maximized:
         return showMaximized();
     case WindowState::Minimized:
+        startsMinimized = !activated;
+        QTimer::singleShot(kTakeover, this, [this] { startsMinimized = false; });
         return showMinimized();
     case WindowState::Normal:
         return showNormal();
@@ -218,6 +221,9 @@ void CMainFrame::OnExposed() {
         if (State() == WindowState::Normal && fitted.isValid())
             FitClient({fitted.width(), fitted.height()});
     }
+    // A window manager may overlook the wish of a window that it has not yet taken over.
+    if (std::exchange(startsMinimized, false))
+        windowHandle()->showMinimized();
     if (!listener)
         return;
     // A window that refuses the focus is as active as it gets once it shows.

@@ -70,6 +70,7 @@ class CMainFrame : public QMainWindow, public FrameWindow {
     const KeyOutput& layout;
     FrameWindowListener* listener = nullptr;
     ViewWidget* view;
+    bool startsMinimized = false;
     std::optional<QPoint> firstCorner; // where the session wants the window that has not shown yet
     QSize fitted;
     int refusals = 0; // how often in short order the view did not get the fitted size
