@@ -6,7 +6,7 @@ import signal
 import subprocess
 import time
 
-from desktop import Program
+from desktop import Program, wait_for
 from story import expect, play
 
 
@@ -24,6 +24,17 @@ def story(desktop, program):
     expect(len(windows) == 1, 'a second start brought another window')
     after = {path.name: path.stat().st_mtime_ns for path in desktop.data.iterdir()}
     expect(before == after, 'a second start changed files')
+
+    # A link to a keyboard of the same size shows the predictions there too.
+    ondrilo.click('Letras por ordem alfabética')
+    wait_for(lambda: '(Alfabetico)' in ondrilo.title() and ondrilo.keys()[0], 'predictions on the linked keyboard')
+
+    # A window that leaves the maximised state is where it was.
+    place = desktop.xdotool('getwindowgeometry', windows[0])
+    desktop.click(991, 49)  # the middle one of the buttons at the right of its title
+    wait_for(lambda: desktop.xdotool('getwindowgeometry', windows[0]) != place, 'the maximised window')
+    desktop.click(1258, 9)
+    wait_for(lambda: desktop.xdotool('getwindowgeometry', windows[0]) == place, 'the window at its former place')
 
     # A killed program leaves nothing that stands in the way of the next.
     ondrilo.process.kill()
