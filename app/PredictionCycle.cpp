@@ -13,7 +13,9 @@ namespace {
 constexpr TextView kStart = "___";
 
 Text OrStart(Text text) {
-    return text.empty() ? Text(kStart) : text;
+    if (text.empty())
+        text = kStart;
+    return text;
 }
 
 } // namespace
