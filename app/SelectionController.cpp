@@ -37,18 +37,15 @@ SelectionController::SelectionController(const CUserProfileSet& profiles, const 
 }
 
 void SelectionController::SelectPredictedWord(COnScreenKeyIdentifier key, const ActionOrigin& origin) {
-    auto selection = MakeSelection(key, false, origin);
-    selection.text = keyboard.Key(key).data.output;
-    if (!PassStages(selection))
-        return;
-    Complete(selection);
-    if (SuggestionsGoAfterSelection())
-        keys.ClearAll();
+    SelectPredicted(MakeSelection(key, false, origin));
 }
 
 void SelectionController::SelectPredictedSentence(COnScreenKeyIdentifier key, const ActionOrigin& origin) {
-    auto selection = MakeSelection(key, true, origin);
-    selection.text = keyboard.Key(key).data.output;
+    SelectPredicted(MakeSelection(key, true, origin));
+}
+
+void SelectionController::SelectPredicted(TextSelection selection) {
+    selection.text = keyboard.Key(selection.key).data.output;
     if (!PassStages(selection))
         return;
     Complete(selection);

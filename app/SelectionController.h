@@ -43,6 +43,7 @@ class SelectionController {
     };
     [[nodiscard]] TextSelection MakeSelection(COnScreenKeyIdentifier key, bool isSentence,
                                               const ActionOrigin& origin) const;
+    void SelectPredicted(TextSelection selection);
     void SelectByHotKey(TextSelection& selection, int code);
     /// The stages before the writing; true if the selection is to be carried out now.
     bool PassStages(const TextSelection& selection);

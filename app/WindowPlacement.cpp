@@ -3,6 +3,12 @@
 namespace ondrilo {
 namespace {
 
+/// A picture anywhere on the machine, or one named relative to the data folder.
+std::filesystem::path PictureFile(const DataFolder& folder, const Text& name) {
+    std::filesystem::path path = ToUtf8(name);
+    return path.is_absolute() ? path : folder.Find(name);
+}
+
 class UpdateHold {
   public:
     explicit UpdateHold(FrameWindow& frame) : frame(frame) { frame.HoldUpdates(true); }
@@ -122,7 +128,7 @@ void WindowPlacement::SetUpWindow() {
     }
     WindowBackground background;
     if (const auto& picture = Options().Get(option::IMAGEM_FUNDO); !picture.empty())
-        background.picture = profiles.Folder().Find(picture);
+        background.picture = PictureFile(profiles.Folder(), picture);
     background.fill = Options().Get(option::TIPO_PREENCHIMENTO_JANELA);
     background.first = Options().Get(option::COR_FUNDO_JANELA);
     background.second = Options().Get(option::COR_FUNDO_JANELA2);

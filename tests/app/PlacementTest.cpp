@@ -78,6 +78,11 @@ TEST_F(RunningSystem, TheBackgroundFollowsTheProfile) {
     EXPECT_EQ(frame.background, std::nullopt);
 }
 
+TEST_F(RunningSystem, ABackgroundPictureOutsideTheDataFolderKeepsItsPath) {
+    StartWriting("IMAGEM_FUNDO /outra;;;pasta/Fundo.bmp\n");
+    EXPECT_EQ(frame.background->picture, "/outra pasta/Fundo.bmp");
+}
+
 TEST_F(RunningSystem, TheWindowKeepsAwayFromTheCaretOrFollowsIt) {
     folder.Write("Casa.tec", "LINHA L\nGRUPO G\nTECLA TECLA_NORMAL o o o\n");
     StartWriting("REPOSICIONAR_JANELA 1\nPOSICAO_INICIAL_JANELA_X 5\n");
