@@ -96,6 +96,8 @@ void CTessivorView::OnDraw() {
     placement.RefreshTitle();
     if (keyboard.IsOpen() && !services.cooperation.IsUp())
         predictionKeys.Show();
+    if (session.IsRunning())
+        targetController.OnExposed();
 }
 
 void CTessivorView::OnKeyDown(int code, std::int32_t) {

@@ -64,10 +64,17 @@ void TargetController::OnFocusChange() {
 
 void TargetController::AttachForeground() {
     lastForegroundWindow = desktop.ForegroundWindow();
-    // A program that ends may leave the focus nowhere, and what the person clicks would be lost.
-    if (lastForegroundWindow == 0 && targets.Internal() && frame.State() != WindowState::Minimized)
-        frame.Activate();
     AttachTarget();
+    // A program that ends may leave the focus nowhere, and what the person clicks would be lost.
+    if (lastForegroundWindow == 0 && targets.Internal() && frame.State() != WindowState::Minimized) {
+        frame.Activate();
+        countdowns.target.Restart();
+    }
+}
+
+void TargetController::OnExposed() {
+    if (desktop.ForegroundWindow() == 0 && countdowns.target.IsStopped())
+        countdowns.target.Restart();
 }
 
 void TargetController::AttachTarget() {

@@ -24,6 +24,9 @@ class TargetController {
     void StopFollowing();
     /// The countdown of the target ran out: takes the foreground window as it is now.
     void AttachForeground();
+    /// The window shows again, maybe out of a task bar that gave nobody the focus: looks at the foreground
+    /// once more when that has settled.
+    void OnExposed();
 
   private:
     void OnFocusChange();

@@ -116,6 +116,19 @@ TEST_F(RunningSystem, TheFocusSettlesBeforeTheTargetChanges) {
     EXPECT_FALSE(journal.Has("activate")) << "a minimised window would come back";
 }
 
+TEST_F(RunningSystem, AWindowThatComesBackFromTheTaskBarTakesAFocusThatNobodyHas) {
+    StartWriting();
+    frame.state = WindowState::Minimized;
+    desktop.MoveFocus(0);
+    Tick(6);
+    EXPECT_FALSE(journal.Has("activate")) << "a minimised window stays so";
+
+    frame.state = WindowState::Normal;
+    frame.listener->OnDraw();
+    Tick(6);
+    EXPECT_TRUE(journal.Has("activate"));
+}
+
 TEST_F(RunningSystem, WhatIsWrittenIsHeardAsTheProfileWants) {
     StartWriting("OUVIR_LETRAS 1\nOUVIR_PALAVRAS 1\nOUVIR_FRASES 1\n");
     Type("tu.");
