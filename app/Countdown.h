@@ -46,7 +46,6 @@ struct Countdowns {
         for (auto* countdown : {&target, &agent, &reposition, &prediction, &context, &idle})
             countdown->Restart();
     }
-    void StopAll() { *this = {}; }
 };
 
 } // namespace ondrilo

@@ -27,8 +27,4 @@ QColor ToQColor(Color color) {
     return {color & 0xFF, color >> 8 & 0xFF, color >> 16 & 0xFF};
 }
 
-Color FromQColor(const QColor& color) {
-    return color.red() | color.green() << 8 | color.blue() << 16;
-}
-
 } // namespace ondrilo

@@ -22,7 +22,6 @@ namespace ondrilo {
 /// Measures and painting both start from here, so that what was measured is what is painted.
 [[nodiscard]] QFont ToQFont(const Font& font);
 [[nodiscard]] QColor ToQColor(Color color);
-[[nodiscard]] Color FromQColor(const QColor& color);
 
 [[nodiscard]] inline QPoint ToQPoint(Point point) {
     return {point.x, point.y};

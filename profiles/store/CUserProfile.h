@@ -25,7 +25,6 @@ class CUserProfile {
         properties.Set(option, value);
         changed = true;
     }
-    void MarkChanged() { changed = true; }
     [[nodiscard]] bool IsChanged() const { return changed; }
 
     /// Takes over all options of another profile; name and file stay its own.
