@@ -20,8 +20,9 @@ KeyboardController::KeyboardController(const Environment& environment, CUserProf
 
 void KeyboardController::LoadKeyboard(TextView name) {
     const auto& folder = profiles.Folder();
+    const auto& profile = profiles.Active();
     try {
-        keyboard.Open(FindKeyboard(folder, name), MakeKeyboardSettings(profiles.Active().properties));
+        keyboard.Open(FindKeyboard(folder, name), MakeKeyboardSettings(profile.properties, profile.access));
     } catch (const KeyboardLoadFailure& failure) {
         frame.SetStatusMessage(Text("O teclado ")
                                    .append(name)

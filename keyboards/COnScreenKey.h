@@ -14,7 +14,10 @@ struct COnScreenKey {
     COnScreenKeyData data;
     int letters = 0; ///< characters that the key must be wide for
     bool hovered = false;
-    bool highlighted = false;
+    bool highlighted = false; ///< by scanning
+    bool flashed = false;     ///< in the lit half of a flash
+    bool on = false;          ///< what the key stands for is on: Shift, Caps Lock, the event log
+    double dwell = 0;         ///< part of the dwell time that has passed, 0 to 1
     bool lastPageMark = false;
     bool pressDotShowing = false;
     bool modified = false;
@@ -22,7 +25,7 @@ struct COnScreenKey {
 
     [[nodiscard]] KeyType Type() const { return KeyTypeOf(data.type); }
     [[nodiscard]] bool IsActive() const { return data.active == 1; }
-    [[nodiscard]] bool IsLit() const { return hovered || highlighted; }
+    [[nodiscard]] bool IsLit() const { return hovered || highlighted || flashed || on; }
     /// A lit key swaps its colours. Marks and symbols show in the colour that the key does not have now.
     [[nodiscard]] Color LitBackground() const { return data.textColor; }
     [[nodiscard]] Color LitText() const { return data.backgroundColor; }

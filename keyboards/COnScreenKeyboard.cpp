@@ -113,6 +113,7 @@ void COnScreenKeyboard::Fill(const KeyboardContent& content, const KeyboardSetti
     TakeSettings(profileSettings);
     size = {};
     modified = false;
+    halfSelected.reset();
     lines.clear();
     for (const auto& lineData : content.lines) {
         auto& line = lines.emplace_back();
@@ -289,6 +290,20 @@ void COnScreenKeyboard::SetHighlighted(COnScreenKeyIdentifier identifier, bool h
     ChangeKey(identifier, [highlighted](auto& key) { key.highlighted = highlighted; });
 }
 
+void COnScreenKeyboard::SetFlashed(COnScreenKeyIdentifier identifier, bool flashed) {
+    ChangeKey(identifier, [flashed](auto& key) { key.flashed = flashed; });
+}
+
+void COnScreenKeyboard::SetDwell(COnScreenKeyIdentifier identifier, double dwell) {
+    ChangeKey(identifier, [dwell](auto& key) { key.dwell = dwell; });
+}
+
+void COnScreenKeyboard::SetHalfSelected(std::optional<COnScreenKeyIdentifier> identifier) {
+    halfSelected = identifier;
+    if (identifier)
+        Tell([identifier](auto& observer) { observer.KeyChanged(*identifier); });
+}
+
 void COnScreenKeyboard::SetPressDot(COnScreenKeyIdentifier identifier, bool showing) {
     ChangeKey(identifier, [showing](auto& key) { key.pressDotShowing = showing; });
 }
@@ -320,6 +335,11 @@ KeyIdentifiers COnScreenKeyboard::KeysByOutput(TextView output) const {
 void COnScreenKeyboard::SetHighlighted(const KeyIdentifiers& keys, bool highlighted) {
     for (const auto& key : keys)
         SetHighlighted(key, highlighted);
+}
+
+void COnScreenKeyboard::LightByOutput(TextView output, bool on) {
+    for (const auto& identifier : KeysByOutput(output))
+        ChangeKey(identifier, [on](auto& key) { key.on = on; });
 }
 
 void COnScreenKeyboard::SetLastPageMark(const KeyIdentifiers& keys, bool mark) {

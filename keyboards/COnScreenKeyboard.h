@@ -10,6 +10,7 @@
 #include "platform/FileStore.h"
 
 #include <memory>
+#include <optional>
 #include <stdexcept>
 
 namespace ondrilo {
@@ -76,7 +77,14 @@ class COnScreenKeyboard {
     void SetLetters(COnScreenKeyIdentifier identifier, int letters);
     void SetHovered(COnScreenKeyIdentifier identifier, bool hovered);
     void SetHighlighted(COnScreenKeyIdentifier identifier, bool highlighted);
+    void SetFlashed(COnScreenKeyIdentifier identifier, bool flashed);
+    void SetDwell(COnScreenKeyIdentifier identifier, double dwell);
     void SetPressDot(COnScreenKeyIdentifier identifier, bool showing);
+
+    /// The key whose last press was only heard or shown, if there is one: the next press of it goes on.
+    /// Observers are told of the key each time.
+    void SetHalfSelected(std::optional<COnScreenKeyIdentifier> identifier);
+    [[nodiscard]] const std::optional<COnScreenKeyIdentifier>& HalfSelected() const { return halfSelected; }
 
     // Many keys, in line, group, key order.
     [[nodiscard]] KeyIdentifiers AllKeys() const;
@@ -85,8 +93,8 @@ class COnScreenKeyboard {
     [[nodiscard]] KeyIdentifiers KeysByOutput(TextView output) const;
     void SetHighlighted(const KeyIdentifiers& keys, bool highlighted);
     void SetLastPageMark(const KeyIdentifiers& keys, bool mark);
-    /// Lights or unlights all keys with that output.
-    void LightByOutput(TextView output, bool lit) { SetHighlighted(KeysByOutput(output), lit); }
+    /// Shows on all keys with that output whether what they stand for is on.
+    void LightByOutput(TextView output, bool on);
 
     /// While it is being edited, prediction keys show what they are and no key reacts.
     [[nodiscard]] bool IsEditing() const { return editing; }
@@ -135,6 +143,7 @@ class COnScreenKeyboard {
     std::vector<COnScreenKeyLine> lines;
     std::vector<COnScreenKeyData> flatKeys;
     bool modified = false;
+    std::optional<COnScreenKeyIdentifier> halfSelected;
     Size size;
     Point position{0, 200};
     std::shared_ptr<Observers> observers = std::make_shared<Observers>();

@@ -2,7 +2,19 @@
 
 namespace ondrilo {
 
-KeyboardSettings MakeKeyboardSettings(const CUserProfileProperties& profile) {
+namespace {
+
+ScanningMethod MethodOf(TextView name) {
+    if (name == "Regular")
+        return ScanningMethod::Regular;
+    if (name == "Inverso")
+        return ScanningMethod::Inverso;
+    return name == "Passo-a-Passo" ? ScanningMethod::PassoAPasso : ScanningMethod::Nenhum;
+}
+
+} // namespace
+
+KeyboardSettings MakeKeyboardSettings(const CUserProfileProperties& profile, const CAccessOptions& access) {
     KeyboardSettings settings;
     settings.font = {profile.Get(option::TIPO_LETRA), profile.Get(option::TAMANHO_LETRAS_PALAVRAS_PREDITAS)};
     settings.backgroundColor = profile.Get(option::COR_FUNDO);
@@ -22,6 +34,11 @@ KeyboardSettings MakeKeyboardSettings(const CUserProfileProperties& profile) {
     settings.equalLineHeights = profile.IsOn(option::AJUSTAR_ALTURA_LINHAS);
     settings.hoverSpeechLimit = profile.Get(option::OUVIR_COM_RATO_SOBRE);
     settings.keySound = profile.IsOn(option::SOM_TECLAS);
+    settings.dwellTime = access.DwellTime();
+    settings.scanning = {MethodOf(profile.Get(option::METODO_VARRIMENTO)),
+                         profile.Get(option::VELOCIDADE_VARRIMENTO),
+                         profile.Get(option::LATENCIA_INTERRUPTORES_VARRIMENTO),
+                         profile.Get(option::NUMERO_MAXIMO_CICLOS_VARRIMENTO)};
     return settings;
 }
 

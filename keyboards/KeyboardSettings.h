@@ -2,9 +2,22 @@
 
 #include "platform/Geometry.h"
 #include "platform/Measure.h"
+#include "profiles/CAccessOptions.h"
 #include "profiles/CUserProfileProperties.h"
 
 namespace ondrilo {
+
+enum class ScanningMethod { Nenhum, Regular, Inverso, PassoAPasso };
+
+/// How the keys are reached by switches. Times in ms: what is no multiple of 100 is never due.
+struct ScanningSettings {
+    ScanningMethod method = ScanningMethod::Nenhum;
+    int speed = 0;         ///< between two steps of the highlight
+    int switchLatency = 0; ///< for which a switch must stay as it is to count
+    int maxCycles = 0;     ///< rounds at one level before scanning gives up
+
+    bool operator==(const ScanningSettings&) const = default;
+};
 
 /// What a profile says about the look and behaviour of keyboards. Lengths in logical pixels.
 struct KeyboardSettings {
@@ -32,10 +45,14 @@ struct KeyboardSettings {
 
     int hoverSpeechLimit = 0; ///< how often a key under the pointer is spoken
     bool keySound = false;
+    int dwellTime = 0; ///< ms for which the pointer rests on a key to press it; 0: it never does
+
+    ScanningSettings scanning;
 
     bool operator==(const KeyboardSettings&) const = default;
 };
 
-[[nodiscard]] KeyboardSettings MakeKeyboardSettings(const CUserProfileProperties& profile);
+[[nodiscard]] KeyboardSettings MakeKeyboardSettings(const CUserProfileProperties& profile,
+                                                    const CAccessOptions& access);
 
 } // namespace ondrilo

@@ -2,6 +2,7 @@
 
 #include "platform/FileStore.h"
 #include "prediction/CDictionary.h"
+#include "profiles/CAccessOptions.h"
 #include "profiles/CUserProfileProperties.h"
 
 #include <filesystem>
@@ -17,6 +18,7 @@ class CUserProfile {
     CUserProfile& operator=(const CUserProfile&) = delete;
 
     CUserProfileProperties properties;
+    CAccessOptions access;
     CDictionary dictionary;
 
     /// Sets an option and marks the profile as changed.

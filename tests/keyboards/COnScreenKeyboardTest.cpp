@@ -213,7 +213,7 @@ TEST(KeyboardSettings, ComeFromTheProfile) {
     profile.Set(option::ESPACO_ENTRE_LINHAS, 1);
     profile.Set(option::ESPACO_ENTRE_GRUPOS, 2);
     profile.Set(option::ESPACO_ENTRE_TECLAS, 3);
-    const auto settings = MakeKeyboardSettings(profile);
+    const auto settings = MakeKeyboardSettings(profile, {});
     EXPECT_EQ(settings.font, (Font{"Arial", 10}));
     EXPECT_EQ(settings.backgroundColor, 65535);
     EXPECT_EQ(settings.textColor, 8388608);

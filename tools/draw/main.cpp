@@ -35,7 +35,7 @@ void ShowHelp() {
 void OpenKeyboard(COnScreenKeyboard& keyboard, const std::filesystem::path& file,
                   const CUserProfileProperties& profile) {
     try {
-        keyboard.Open(file, MakeKeyboardSettings(profile));
+        keyboard.Open(file, MakeKeyboardSettings(profile, {}));
     } catch (const KeyboardLoadFailure& failure) {
         std::cerr << file.string() << ":" << failure.LineNumber() << ": the keyboard ends here\n";
     }
