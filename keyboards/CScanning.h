@@ -8,7 +8,8 @@ namespace ondrilo {
 /// Selection of keys by one or two switches: lights the lines of a keyboard one by one, then the groups of
 /// the chosen line, then the keys of the chosen group. A state machine without window and clock: the owner
 /// calls Tick every 100 ms and tells what the switches do. Lights keys by `highlighted`, and posts what
-/// happened as UM_SCAN_ messages. A keyboard that is opened or closed ends the scanning of the one before.
+/// happened as UM_SCAN_ messages. Lines and groups without keys are passed over. A keyboard that is opened
+/// or closed ends the scanning of the one before.
 class CScanning : private KeyboardObserver {
   public:
     /// Both outlive the scanning. Method, times and cycles are those of the keyboard's settings.
@@ -41,9 +42,35 @@ class CScanning : private KeyboardObserver {
     void Reset();
 
   private:
+    using Action = void (CScanning::*)();
+
     void KeyChanged(COnScreenKeyIdentifier) override {}
     void KeysReplaced() override;
     void LayoutChanged() override {}
+
+    void ConfirmedDown();
+    void FirstSwitchDown();
+    void ConfirmedUp();
+    void Start();
+    void Select();
+    void SelectLine();
+    void SelectGroup();
+    void SelectKey();
+    void Advance();
+    void Stop();
+
+    template <typename Items>
+    void Enter(const Items& items, int& position, Message started, Action selectOnlyOne);
+    template <typename Items>
+    void AdvanceAmong(const Items& items, int& position);
+    void SetLit(bool lit);
+
+    [[nodiscard]] const ScanningSettings& Settings() const { return keyboard.Settings().scanning; }
+    [[nodiscard]] const COnScreenKeyLine& Line() const;
+    [[nodiscard]] const COnScreenKeyGroup& Group() const;
+    [[nodiscard]] COnScreenKeyIdentifier KeyPosition() const;
+    [[nodiscard]] KeyIdentifiers CurrentKeys() const;
+    [[nodiscard]] Text LineCue() const;
 
     COnScreenKeyboard& keyboard;
     MessageQueue& queue;

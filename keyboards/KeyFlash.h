@@ -18,8 +18,14 @@ class KeyFlash : private KeyboardObserver {
     void KeysReplaced() override;
     void LayoutChanged() override {}
 
+    void SetFlashed(bool flashed);
+    void Change();
+
     COnScreenKeyboard& keyboard;
     TimerService& timers;
+    KeyIdentifiers keys;
+    int changesLeft = 0;
+    std::unique_ptr<Timer> timer;
     RegistrationHandle observation;
 };
 

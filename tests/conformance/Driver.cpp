@@ -6,6 +6,7 @@
 #include "tests/conformance/OptionsArea.h"
 #include "tests/conformance/ProfileArea.h"
 #include "tests/conformance/QueryFile.h"
+#include "tests/conformance/ScanningArea.h"
 #include "tests/conformance/SelectionArea.h"
 #include "tests/conformance/TextArea.h"
 #include "tests/conformance/VocabularyArea.h"
@@ -32,6 +33,7 @@ const std::map<std::string, AreaMaker>& Areas() {
         {"options", MakerOf<OptionsArea>()},
         {"prediction", MakerOf<VocabularyArea>()},
         {"profile", MakerOf<ProfileArea>()},
+        {"scanning", MakerOf<ScanningArea>()},
         {"selection", MakerOf<SelectionArea>()},
         {"text", MakerOf<TextArea>()},
     };
