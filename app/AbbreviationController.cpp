@@ -25,16 +25,16 @@ void AbbreviationController::Press(const ActionOrigin& origin) {
         return;
     }
     bool used = false;
-    if (expansion != state.lastSpoken && Options().IsOn(option::OUVIR_ANTES_COMPLETAR)) {
+    if (expansion != state.stages.lastSpoken && Options().IsOn(option::OUVIR_ANTES_COMPLETAR)) {
         Log(origin, "SYNTHESIZE_ABBREVIATION_EXPANSION_BEFORE_EXPANSION", expansion);
         speech.SpeakText(expansion);
-        state.lastSpoken = expansion;
+        state.stages.lastSpoken = expansion;
         used = true;
     }
-    if (expansion != state.lastShown && Options().IsOn(option::VER_ANTES_COMPLETAR)) {
+    if (expansion != state.stages.lastShown && Options().IsOn(option::VER_ANTES_COMPLETAR)) {
         Log(origin, "SHOW_ABBREVIATION_EXPANSION_BEFORE_EXPANSION", expansion);
         preview.ShowPreview(targets.Current()->AdaptWordCase(expansion));
-        state.lastShown = expansion;
+        state.stages.lastShown = expansion;
         return;
     }
     if (used)

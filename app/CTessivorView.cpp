@@ -23,8 +23,9 @@ CTessivorView::CTessivorView(const Environment& environment, const SessionServic
       chrome(environment.frame, userProfiles), caretFollower(environment, userProfiles, keyboard, targets),
       preview(environment.windows, environment.desktop, targets), learning(userProfiles, targets),
       speech(userProfiles, targets, learning, services), sender(keyboardSimulator, keyboard, state),
+      scanning(environment, userProfiles, keyboard, speech, events),
       keyboards(environment, userProfiles, keyboard, predictionKeys, predictions, placement, sender, speech,
-                events, countdowns, services),
+                scanning, events, countdowns, services),
       logging(environment, userProfiles, writingClock, state, services),
       targetController(environment, userProfiles, targets, specialKeys, preview, cycle, keyboardSimulator,
                        countdowns, events, services),
@@ -44,8 +45,8 @@ CTessivorView::CTessivorView(const Environment& environment, const SessionServic
       keySelection(keyboard, predictionKeys, keyboardSimulator.keySet, specialKeys, keyboards,
                    commandController, selections, abbreviations),
       router(userProfiles, targets, keyboard, predictionKeys, specialKeys, keySelection, selections,
-             abbreviations, speech, learning, preview, sender, placement, chrome, environment.sounds,
-             countdowns, writingClock, events, state, services),
+             abbreviations, speech, learning, preview, sender, scanning, placement, chrome, countdowns,
+             writingClock, events, state, services),
       menuController(environment.frame, environment.boxes, userProfiles, keyboard, session, chrome,
                      countdowns, events, services) {
     session.SetClock(clock);
@@ -100,9 +101,9 @@ void CTessivorView::OnDraw() {
         targetController.OnExposed();
 }
 
-void CTessivorView::OnKeyDown(int code, std::int32_t) {
+void CTessivorView::OnKeyDown(int code, std::int32_t keyData) {
     if (session.IsRunning())
-        router.OnKeyDown(code);
+        router.OnKeyDown(code, keyData);
 }
 
 void CTessivorView::OnKeyUp(int code, std::int32_t) {

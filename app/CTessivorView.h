@@ -60,6 +60,7 @@ class CTessivorView : private FrameWindowListener {
     LearningController learning;
     SpeechController speech;
     KeySender sender;
+    ScanningController scanning;
     KeyboardController keyboards;
     LoggingController logging;
     TargetController targetController;

@@ -4,19 +4,26 @@
 #include "text/Splitter.h"
 
 namespace ondrilo {
+namespace {
 
-InputRouter::InputRouter(const CUserProfileSet& profiles, const Targets& targets,
-                         const COnScreenKeyboard& keyboard, PredictionKeys& keys,
-                         const SpecialKeys& specialKeys, KeySelection& keySelection,
+bool IsRepeat(std::int32_t keyData) {
+    constexpr std::uint32_t kWasDown = 1U << 30;
+    return (static_cast<std::uint32_t>(keyData) & kWasDown) != 0;
+}
+
+} // namespace
+
+InputRouter::InputRouter(const CUserProfileSet& profiles, const Targets& targets, COnScreenKeyboard& keyboard,
+                         PredictionKeys& keys, const SpecialKeys& specialKeys, KeySelection& keySelection,
                          SelectionController& selections, AbbreviationController& abbreviations,
                          SpeechController& speech, LearningController& learning, PreviewController& preview,
-                         KeySender& sender, WindowPlacement& placement, WindowChrome& chrome,
-                         SoundPlayer& sounds, Countdowns& countdowns, WritingClock& writingClock,
+                         KeySender& sender, ScanningController& scanning, WindowPlacement& placement,
+                         WindowChrome& chrome, Countdowns& countdowns, WritingClock& writingClock,
                          EventWriter& events, SessionState& state, const SessionServices& services)
     : profiles(profiles), targets(targets), keyboard(keyboard), keys(keys), specialKeys(specialKeys),
       keySelection(keySelection), selections(selections), abbreviations(abbreviations), speech(speech),
-      learning(learning), preview(preview), sender(sender), placement(placement), chrome(chrome),
-      sounds(sounds), countdowns(countdowns), writingClock(writingClock), events(events), state(state),
+      learning(learning), preview(preview), sender(sender), scanning(scanning), placement(placement),
+      chrome(chrome), countdowns(countdowns), writingClock(writingClock), events(events), state(state),
       services(services) {
 }
 
@@ -24,7 +31,7 @@ void InputRouter::Handle(const MessageEvent& event) {
     const auto key = COnScreenKeyIdentifier::FromPacked(event.first);
     switch (event.message) {
     case Message::UM_KEY_DOWN:
-        return KeyDown(event.first);
+        return KeyDown(event.first, event.second);
     case Message::UM_KEY_UP:
         return KeyUp(event.first);
     case Message::UM_LEFT_DOWN:
@@ -57,11 +64,11 @@ void InputRouter::Handle(const MessageEvent& event) {
     case Message::UM_SCAN_LINES:
     case Message::UM_SCAN_GROUPS:
     case Message::UM_SCAN_KEYS:
-        return ScanCues(event.message);
+        return scanning.Step(event.message);
     case Message::UM_SCAN_LINE_SELECTED:
-        return events.Action(ActionOrigin::OfSwitch(), "LINE_SELECTION", key);
+        return scanning.LineSelected(key);
     case Message::UM_SCAN_GROUP_SELECTED:
-        return events.Action(ActionOrigin::OfSwitch(), "GROUP_SELECTION", key);
+        return scanning.GroupSelected(key);
     case Message::UM_LAYOUT:
         return placement.LayOut();
     }
@@ -77,7 +84,7 @@ void InputRouter::Count(Metric metric) {
         services.metrics.Count(metric);
 }
 
-void InputRouter::KeyDown(int code) {
+void InputRouter::KeyDown(int code, std::int32_t keyData) {
     PersonIsActive();
     countdowns.prediction.Stop();
     BringBackMenuAfterControl(code);
@@ -91,7 +98,7 @@ void InputRouter::KeyDown(int code) {
     Count(simulated ? Metric::SystemKey : Metric::KeyPress);
     if (simulated)
         --state.pendingSimulatedKeys;
-    Dispatch(code, simulated);
+    Dispatch(code, keyData, simulated);
     state.lastKeyCode = code;
     events.UpdateContext();
 }
@@ -101,8 +108,8 @@ void InputRouter::BringBackMenuAfterControl(int code) {
         chrome.BringBackMenu();
 }
 
-void InputRouter::Dispatch(int code, bool simulated) {
-    if (SwitchDown(code) || SelectByHotKey(code))
+void InputRouter::Dispatch(int code, std::int32_t keyData, bool simulated) {
+    if (SwitchDown(code, keyData) || SelectByHotKey(code))
         return;
     if (code == specialKeys.expansionKey) {
         abbreviations.Press(ActionOrigin::Key(code));
@@ -130,18 +137,27 @@ bool InputRouter::SelectByHotKey(int code) {
     return true;
 }
 
-bool InputRouter::SwitchDown(int code) {
-    if (code != specialKeys.switch1Key && code != specialKeys.switch2Key)
-        return false;
-    services.scanning.SwitchDown(code == specialKeys.switch1Key ? 1 : 2);
-    return true;
+std::optional<int> InputRouter::SwitchOf(int code) const {
+    if (code == 0)
+        return std::nullopt;
+    if (code == specialKeys.switch1Key)
+        return 1;
+    return code == specialKeys.switch2Key ? std::optional(2) : std::nullopt;
+}
+
+bool InputRouter::SwitchDown(int code, std::int32_t keyData) {
+    const auto number = SwitchOf(code);
+    // A switch that is held goes down once, however often the desktop repeats its key.
+    if (number && !IsRepeat(keyData))
+        scanning.SwitchDown(*number);
+    return number.has_value();
 }
 
 bool InputRouter::SwitchUp(int code) {
-    if (code != specialKeys.switch1Key && code != specialKeys.switch2Key)
-        return false;
-    services.scanning.SwitchUp(code == specialKeys.switch1Key ? 1 : 2);
-    return true;
+    const auto number = SwitchOf(code);
+    if (number)
+        scanning.SwitchUp(*number);
+    return number.has_value();
 }
 
 void InputRouter::SpeakWordByKey(int code) {
@@ -165,11 +181,11 @@ void InputRouter::KeyUp(int code) {
     sender.ReleaseShift();
 }
 
-void InputRouter::OnKeyDown(int code) {
+void InputRouter::OnKeyDown(int code, std::int32_t keyData) {
     PersonIsActive();
     if (IsOn(option::REGISTA_EVENTOS_CONTROLO))
         events.RawKey(code);
-    SwitchDown(code);
+    SwitchDown(code, keyData);
     BringBackMenuAfterControl(code);
     state.lastKeyCode = code;
 }
@@ -223,35 +239,28 @@ void InputRouter::KeyPress(COnScreenKeyIdentifier key, int button) {
     Count(Metric::ScreenKey);
     preview.HidePreview();
     if (button == 0)
-        keySelection.Select(key, ActionOrigin::OfMouse());
+        Select(key, ActionOrigin::OfMouse());
     events.UpdateContext();
 }
 
 void InputRouter::ScannedKey(COnScreenKeyIdentifier key) {
     PersonIsActive();
     Count(Metric::ScreenKey);
-    keySelection.Select(key, ActionOrigin::OfSwitch());
+    scanning.KeySelected(key);
+    Select(key, ActionOrigin::OfSwitch());
     events.UpdateContext();
+}
+
+void InputRouter::Select(COnScreenKeyIdentifier key, const ActionOrigin& origin) {
+    const auto before = state.stages;
+    keySelection.Select(key, origin);
+    const bool isHalfDone = state.stages != before && !state.stages.AreNone();
+    keyboard.SetHalfSelected(isHalfDone ? std::optional(key) : std::nullopt);
 }
 
 void InputRouter::Hover(COnScreenKeyIdentifier key) {
     const auto position = keys.lists.words.PositionOf(key);
     speech.SpeakText(position ? keys.text.WordAt(*position) : keyboard.Key(key).data.description);
-}
-
-void InputRouter::ScanCues(Message step) {
-    if (step == Message::UM_SCAN_LINES)
-        events.Event("SWITCH1_DOWN", "START_SCANNING_LINES");
-    else if (step == Message::UM_SCAN_GROUPS)
-        events.Event("SWITCH1_DOWN", "START_SCANNING_GROUPS");
-    else if (step == Message::UM_SCAN_KEYS)
-        events.Event("SWITCH1_DOWN", "START_SCANNING_KEYS");
-    else
-        events.Action({ActionOrigin::Kind::ScanTimer, 0}, services.scanning.AdvanceEvent());
-    if (IsOn(option::PISTA_SONORA_BEEP_VARRIMENTO))
-        sounds.Beep();
-    if (IsOn(option::PISTA_SINTETIZADA_VARRIMENTO))
-        speech.SpeakText(services.scanning.LitDescription());
 }
 
 } // namespace ondrilo

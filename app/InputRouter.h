@@ -2,35 +2,37 @@
 
 #include "app/Countdown.h"
 #include "app/KeySelection.h"
+#include "app/ScanningController.h"
 #include "app/WindowChrome.h"
 #include "logging/WritingClock.h"
 #include "platform/MessageQueue.h"
-#include "platform/Sound.h"
 
 namespace ondrilo {
 
 /// Gives each event of the session its meaning.
 class InputRouter {
   public:
-    InputRouter(const CUserProfileSet& profiles, const Targets& targets, const COnScreenKeyboard& keyboard,
+    InputRouter(const CUserProfileSet& profiles, const Targets& targets, COnScreenKeyboard& keyboard,
                 PredictionKeys& keys, const SpecialKeys& specialKeys, KeySelection& keySelection,
                 SelectionController& selections, AbbreviationController& abbreviations,
                 SpeechController& speech, LearningController& learning, PreviewController& preview,
-                KeySender& sender, WindowPlacement& placement, WindowChrome& chrome, SoundPlayer& sounds,
-                Countdowns& countdowns, WritingClock& writingClock, EventWriter& events, SessionState& state,
-                const SessionServices& services);
+                KeySender& sender, ScanningController& scanning, WindowPlacement& placement,
+                WindowChrome& chrome, Countdowns& countdowns, WritingClock& writingClock, EventWriter& events,
+                SessionState& state, const SessionServices& services);
 
     void Handle(const MessageEvent& event);
     /// Keys that reach the view itself: so switches and the way back to the menu work without any target.
-    void OnKeyDown(int code);
+    void OnKeyDown(int code, std::int32_t keyData);
     void OnKeyUp(int code);
 
   private:
-    void KeyDown(int code);
+    void KeyDown(int code, std::int32_t keyData);
     void KeyUp(int code);
-    void Dispatch(int code, bool simulated);
+    void Dispatch(int code, std::int32_t keyData, bool simulated);
     bool SelectByHotKey(int code);
-    bool SwitchDown(int code);
+    /// 1 or 2; nothing if the code is no switch.
+    [[nodiscard]] std::optional<int> SwitchOf(int code) const;
+    bool SwitchDown(int code, std::int32_t keyData);
     bool SwitchUp(int code);
     void SpeakWordByKey(int code);
     void SpeakSentenceByKey(int code);
@@ -43,15 +45,15 @@ class InputRouter {
 
     void KeyPress(COnScreenKeyIdentifier key, int button);
     void ScannedKey(COnScreenKeyIdentifier key);
+    void Select(COnScreenKeyIdentifier key, const ActionOrigin& origin);
     void Hover(COnScreenKeyIdentifier key);
-    void ScanCues(Message step);
     void PersonIsActive();
     [[nodiscard]] bool IsOn(IntegerOption option) const { return profiles.Active().properties.IsOn(option); }
     void Count(Metric metric);
 
     const CUserProfileSet& profiles;
     const Targets& targets;
-    const COnScreenKeyboard& keyboard;
+    COnScreenKeyboard& keyboard;
     PredictionKeys& keys;
     const SpecialKeys& specialKeys;
     KeySelection& keySelection;
@@ -61,9 +63,9 @@ class InputRouter {
     LearningController& learning;
     PreviewController& preview;
     KeySender& sender;
+    ScanningController& scanning;
     WindowPlacement& placement;
     WindowChrome& chrome;
-    SoundPlayer& sounds;
     Countdowns& countdowns;
     WritingClock& writingClock;
     EventWriter& events;

@@ -10,12 +10,13 @@ constexpr TextView kExtension = ".tec";
 KeyboardController::KeyboardController(const Environment& environment, CUserProfileSet& profiles,
                                        COnScreenKeyboard& keyboard, PredictionKeys& keys,
                                        Predictions& predictions, WindowPlacement& placement,
-                                       KeySender& sender, SpeechController& speech, EventWriter& events,
+                                       KeySender& sender, SpeechController& speech,
+                                       ScanningController& scanning, EventWriter& events,
                                        Countdowns& countdowns, const SessionServices& services)
     : queue(environment.queue), frame(environment.frame), windows(environment.windows),
       boxes(environment.boxes), profiles(profiles), keyboard(keyboard), keys(keys), predictions(predictions),
-      placement(placement), sender(sender), speech(speech), events(events), countdowns(countdowns),
-      services(services) {
+      placement(placement), sender(sender), speech(speech), scanning(scanning), events(events),
+      countdowns(countdowns), services(services) {
 }
 
 void KeyboardController::LoadKeyboard(TextView name) {
@@ -31,6 +32,7 @@ void KeyboardController::LoadKeyboard(TextView name) {
     }
     keyboardWindow = windows.CreateKeyboardWindow(keyboard);
     placement.SetKeyboardWindow(keyboardWindow.get());
+    scanning.Start();
     keys.BindPredictionKeys();
     predictions.pictogramKeys = CollectPictogramKeys(folder, name);
     placement.LayOut();
@@ -48,6 +50,7 @@ void KeyboardController::ShowLoggingState() {
 }
 
 void KeyboardController::CloseKeyboard() {
+    scanning.Stop();
     keys.Unbind();
     if (keyboard.IsModified() && WantsToKeepChanges()) {
         const auto saved = keyboard.Save();

@@ -4,6 +4,7 @@
 #include "app/EventWriter.h"
 #include "app/KeySender.h"
 #include "app/PredictionKeys.h"
+#include "app/ScanningController.h"
 #include "app/SpeechController.h"
 #include "app/WindowPlacement.h"
 
@@ -14,8 +15,8 @@ class KeyboardController {
   public:
     KeyboardController(const Environment& environment, CUserProfileSet& profiles, COnScreenKeyboard& keyboard,
                        PredictionKeys& keys, Predictions& predictions, WindowPlacement& placement,
-                       KeySender& sender, SpeechController& speech, EventWriter& events,
-                       Countdowns& countdowns, const SessionServices& services);
+                       KeySender& sender, SpeechController& speech, ScanningController& scanning,
+                       EventWriter& events, Countdowns& countdowns, const SessionServices& services);
 
     /// A file that breaks off is told in the status line; what stands before that is on show.
     void LoadKeyboard(TextView name);
@@ -42,6 +43,7 @@ class KeyboardController {
     WindowPlacement& placement;
     KeySender& sender;
     SpeechController& speech;
+    ScanningController& scanning;
     EventWriter& events;
     Countdowns& countdowns;
     SessionServices services;

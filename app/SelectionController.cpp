@@ -98,16 +98,16 @@ bool SelectionController::PassStages(const TextSelection& selection) {
         return memory == selection.text && selection.followsItself;
     };
     bool used = false;
-    if (!isDone(state.lastSpoken) && IsOn(option::OUVIR_ANTES_COMPLETAR)) {
+    if (!isDone(state.stages.lastSpoken) && IsOn(option::OUVIR_ANTES_COMPLETAR)) {
         Log(selection, "SYNTHESIZE_", "_FROM_LIST_BEFORE_COMPLETATION");
         speech.SpeakText(selection.text);
-        state.lastSpoken = selection.text;
+        state.stages.lastSpoken = selection.text;
         used = true;
     }
-    if (!isDone(state.lastShown) && IsOn(option::VER_ANTES_COMPLETAR)) {
+    if (!isDone(state.stages.lastShown) && IsOn(option::VER_ANTES_COMPLETAR)) {
         Log(selection, "SHOW_", "_FROM_LIST_BEFORE_COMPLETATION");
         preview.ShowPreview(DisplayText(selection));
-        state.lastShown = selection.text;
+        state.stages.lastShown = selection.text;
         return false;
     }
     return !used;
@@ -201,11 +201,11 @@ void SelectionController::SelectPictogramKey(COnScreenKeyIdentifier key, const A
 
 bool SelectionController::HearFirst(const Text& description, COnScreenKeyIdentifier key,
                                     const ActionOrigin& origin, TextView event) {
-    if (state.lastSpoken == description || !IsOn(option::OUVIR_ANTES_COMPLETAR))
+    if (state.stages.lastSpoken == description || !IsOn(option::OUVIR_ANTES_COMPLETAR))
         return false;
     events.Action(origin, event, key);
     speech.SpeakText(description);
-    state.lastSpoken = description;
+    state.stages.lastSpoken = description;
     return true;
 }
 
@@ -220,9 +220,9 @@ void SelectionController::HearAfter(const Text& description, COnScreenKeyIdentif
 void SelectionController::SelectTextKey(COnScreenKeyIdentifier key, const ActionOrigin& origin) {
     const auto data = keyboard.Key(key).data;
     const bool heard = HearFirst(data.description, key, origin, "SYNTHESIZE_TEXT_KEY_BEFORE_SELECTION");
-    if (state.lastShown != data.output && IsOn(option::VER_ANTES_COMPLETAR)) {
+    if (state.stages.lastShown != data.output && IsOn(option::VER_ANTES_COMPLETAR)) {
         ShowTextKey(data, key, origin);
-        state.lastShown = data.output;
+        state.stages.lastShown = data.output;
         return;
     }
     if (heard)

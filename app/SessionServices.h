@@ -79,19 +79,6 @@ class UserRecord {
     virtual void MenuSelected(int /*command*/) {}
 };
 
-/// Selection by one or two switches.
-class ScanningSwitches {
-  public:
-    virtual ~ScanningSwitches() = default;
-    /// `number` is 1 or 2.
-    virtual void SwitchDown(int /*number*/) {}
-    virtual void SwitchUp(int /*number*/) {}
-    /// Name or description of the line, group or key that is lit.
-    [[nodiscard]] virtual Text LitDescription() const { return {}; }
-    /// "SCANNING_ADVANCE_" and what is being scanned, for the event log.
-    [[nodiscard]] virtual Text AdvanceEvent() const { return {}; }
-};
-
 /// Makes the picture of a pictogram key and puts it into the editor.
 class PictogramWriter {
   public:
@@ -120,7 +107,6 @@ struct SessionServices {
     ContextAdapter& context;
     CooperativeSession& cooperation;
     UserRecord& userRecord;
-    ScanningSwitches& scanning;
     ExternalTargets& externalTargets;
     PictogramWriter& pictograms;
 };
@@ -136,13 +122,12 @@ struct NullServices {
     ContextAdapter context;
     CooperativeSession cooperation;
     UserRecord userRecord;
-    ScanningSwitches scanning;
     ExternalTargets externalTargets;
     PictogramWriter pictograms;
 
     [[nodiscard]] SessionServices All() {
-        return {log,         metrics,    speech,   agent,           gps,       bluetooth, context,
-                cooperation, userRecord, scanning, externalTargets, pictograms};
+        return {log,     metrics,     speech,     agent,           gps,       bluetooth,
+                context, cooperation, userRecord, externalTargets, pictograms};
     }
 };
 

@@ -8,17 +8,18 @@ namespace ondrilo {
 struct SessionState {
     /// Texts of the selection that is half done: heard, shown. Nothing but a finished selection and the start
     /// of a session empties them.
-    Text lastSpoken;
-    Text lastShown;
+    struct Stages {
+        Text lastSpoken;
+        Text lastShown;
+        bool operator==(const Stages&) const = default;
+        [[nodiscard]] bool AreNone() const { return lastSpoken.empty() && lastShown.empty(); }
+    } stages;
     /// The key pressed before this one, -1 for none.
     int lastKeyCode = -1;
     /// Key presses of the system's own that are still to come back from the target.
     int pendingSimulatedKeys = 0;
 
-    void ForgetSelection() {
-        lastSpoken.clear();
-        lastShown.clear();
-    }
+    void ForgetSelection() { stages = {}; }
 };
 
 } // namespace ondrilo

@@ -11,7 +11,7 @@ namespace ondrilo {
 struct RecordingServices {
     explicit RecordingServices(Journal& journal)
         : log(journal), metrics(), speech(journal), agent(journal), gps(journal), bluetooth(journal),
-          cooperation(journal), userRecord(journal), scanning(journal) {}
+          cooperation(journal), userRecord(journal) {}
 
     struct Noting {
         explicit Noting(Journal& journal) : journal(journal) {}
@@ -103,16 +103,10 @@ struct RecordingServices {
         void Close() override { journal.Note("close record"); }
         void MenuSelected(int command) override { journal.Note("menu " + std::to_string(command)); }
     };
-    struct Scanning : ScanningSwitches, Noting {
-        using Noting::Noting;
-        void SwitchDown(int number) override { journal.Note("switch down " + std::to_string(number)); }
-        void SwitchUp(int number) override { journal.Note("switch up " + std::to_string(number)); }
-        [[nodiscard]] Text LitDescription() const override { return "linha um"; }
-    };
 
     [[nodiscard]] SessionServices All() {
-        return {log,         metrics,    speech,   agent,           gps,       bluetooth, context,
-                cooperation, userRecord, scanning, externalTargets, pictograms};
+        return {log,     metrics,     speech,     agent,           gps,       bluetooth,
+                context, cooperation, userRecord, externalTargets, pictograms};
     }
 
     Log log;
@@ -124,7 +118,6 @@ struct RecordingServices {
     Context context;
     Cooperation cooperation;
     Record userRecord;
-    Scanning scanning;
     ExternalTargets externalTargets;
     PictogramWriter pictograms;
 };

@@ -123,13 +123,13 @@ TEST_F(RunningSystem, ShiftLastsForOneKeyAndASecondPressCancelsIt) {
     StartWriting();
     const auto shift = KeyOf("Shift");
     Click(shift);
-    EXPECT_TRUE(Key(shift).highlighted);
+    EXPECT_TRUE(Key(shift).IsLit());
     Click("o");
-    EXPECT_FALSE(Key(shift).highlighted);
+    EXPECT_FALSE(Key(shift).IsLit());
     Click("l");
     Click(shift);
     Click(shift);
-    EXPECT_FALSE(Key(shift).highlighted);
+    EXPECT_FALSE(Key(shift).IsLit());
     Click("o");
     EXPECT_EQ(Written(), "Olo");
     Click(shift);
@@ -141,9 +141,9 @@ TEST_F(RunningSystem, CapsLockKeysFollowItsState) {
     keys.capsLock = true;
     StartWriting();
     const auto caps = KeyOf("CapsLock");
-    EXPECT_TRUE(Key(caps).highlighted);
+    EXPECT_TRUE(Key(caps).IsLit());
     Press(vk::CapsLock);
-    EXPECT_FALSE(Key(caps).highlighted);
+    EXPECT_FALSE(Key(caps).IsLit());
 }
 
 TEST_F(RunningSystem, ACompletionTellsWhichKeysAreTheSystems) {
