@@ -176,7 +176,10 @@ void InputRouter::SpeakSentenceByKey(int code) {
 void InputRouter::KeyUp(int code) {
     if (code == vk::Backspace || code == vk::Delete)
         Count(Metric::Correction);
-    if (!SwitchUp(code) && code == vk::CapsLock)
+    // A switch takes no part in the writing: the Shift that it has just chosen waits for a letter.
+    if (SwitchUp(code))
+        return;
+    if (code == vk::CapsLock)
         sender.ShowModifiers();
     sender.ReleaseShift();
 }

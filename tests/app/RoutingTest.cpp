@@ -63,12 +63,11 @@ TEST_F(RunningSystem, ControlThenShiftBringsTheMenuBack) {
 }
 
 TEST_F(RunningSystem, SwitchesAndTheWayBackToTheMenuWorkWithoutATarget) {
-    StartWriting("PROCESSADOR_TEXTO_INTERNO 0\nTECLA_MANIPULO2 Num6\n");
+    StartWriting("PROCESSADOR_TEXTO_INTERNO 0\nMETODO_VARRIMENTO Regular\n");
     frame.listener->OnMenuCommand(menu::DisableMenu);
     frame.listener->OnKeyDown(vk::Num0 + 5, 0);
-    frame.listener->OnKeyUp(vk::Num0 + 5, 0);
-    frame.listener->OnKeyDown(vk::Num0 + 6, 0);
-    EXPECT_EQ(journal.Take(), Texts("menu 32947", "switch down 1", "switch up 1", "switch down 2"));
+    Tick(3);
+    EXPECT_TRUE(Key({0, 0, 0}).highlighted);
     frame.listener->OnKeyDown(vk::Control, 0);
     frame.listener->OnKeyDown(vk::Shift, 0);
     EXPECT_TRUE(frame.menuEnabled);
@@ -81,7 +80,6 @@ TEST_F(RunningSystem, ASwitchKeyDoesNotWriteAndKeepsThePreview) {
     Press(vk::Num0 + 5);
     EXPECT_EQ(Written(), "");
     EXPECT_TRUE(windows.preview.visible);
-    EXPECT_EQ(journal.Take(), Texts("switch down 1", "switch up 1"));
     Press('A');
     EXPECT_FALSE(windows.preview.visible);
 }
@@ -156,17 +154,6 @@ TEST_F(RunningSystem, HoveringSpeaksTheWordOfAPredictionAndTheDescriptionOfOther
     queue.Post(Message::UM_KEY_HOVER, COnScreenKeyIdentifier{0, 0, 3}.Packed());
     Drain();
     EXPECT_EQ(services.speech.spoken, Texts("tudo", "letra éle"_w));
-}
-
-TEST_F(RunningSystem, ScanningIsHeardAndItsSelectionRunsTheKey) {
-    StartWriting("PISTA_SONORA_BEEP_VARRIMENTO 1\nPISTA_SINTETIZADA_VARRIMENTO 1\n");
-    queue.Post(Message::UM_SCAN_LINES);
-    queue.Post(Message::UM_SCAN_ADVANCE);
-    queue.Post(Message::UM_SCAN_KEY_SELECTED, KeyOf("o").Packed());
-    Drain();
-    EXPECT_EQ(sounds.beeps, 2);
-    EXPECT_EQ(services.speech.spoken, Texts("linha um", "linha um"));
-    EXPECT_EQ(Written(), "o");
 }
 
 TEST_F(RunningSystem, OnlyTheLeftButtonSelectsAKey) {

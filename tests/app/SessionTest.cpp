@@ -157,11 +157,12 @@ TEST_F(RunningSystem, AFailingAgentIsSwitchedOff) {
     EXPECT_TRUE(services.agent.played.empty());
 }
 
-TEST_F(RunningSystem, WithoutATimerTheSessionGoesOnWithoutAClock) {
+TEST_F(RunningSystem, WithoutTimersTheSessionGoesOnWithoutClocks) {
     timers.exhausted = true;
     Start();
     EXPECT_EQ(boxes.shown,
-              Texts("Nao existe um timer disponivel. O sistema não irá funcionar correctamente."_w));
+              Texts("Nao existe nenhum timer disponivel. O sistema não irá funcionar correctamente."_w,
+                    "Nao existe um timer disponivel. O sistema não irá funcionar correctamente."_w));
     EXPECT_TRUE(view->Keyboard().IsOpen());
 }
 
