@@ -5,11 +5,22 @@
 #include "text/NormalForm.h"
 #include "text/Splitter.h"
 
+#include <filesystem>
+
 namespace ondrilo {
 namespace {
 
 bool IsEnclosed(TextView text, char opening, char closing) {
     return text.size() >= 2 && text.front() == opening && text.back() == closing;
+}
+
+/// These endings stand in ordinary texts too; only a file that is there makes a program of them.
+bool IsProgramFile(TextView output) {
+    if (!output.ends_with(".sh") && !output.ends_with(".AppImage"))
+        return false;
+    const std::filesystem::path path = ToUtf8(output);
+    std::error_code unreachable;
+    return path.is_absolute() && std::filesystem::is_regular_file(path, unreachable);
 }
 
 } // namespace
@@ -36,7 +47,10 @@ bool HasLinkMark(TextView output) {
 
 bool IsProgram(TextView output) {
     const Text folded = MakeLower(output);
-    return folded.ends_with(".exe") || folded.ends_with(".com");
+    const auto hasEnding = [&folded](TextView ending) {
+        return folded.ends_with(ending);
+    };
+    return hasEnding(".exe") || hasEnding(".com") || hasEnding(".desktop") || IsProgramFile(output);
 }
 
 bool IsKeySequence(TextView output) {

@@ -14,7 +14,9 @@ enum class OutputKind { KeyboardLink, Program, Sequence, Command, Pictogram, Tex
 [[nodiscard]] bool IsKeyboardLink(TextView output);
 /// Ends in ".tec" in lower case: only such a key bears the link mark and counts as a link for editing.
 [[nodiscard]] bool HasLinkMark(TextView output);
-/// Ends in ".exe" or ".com", in any case.
+/// Ends in ".exe", ".com" or ".desktop", in any case; or is the absolute path of a file that exists and ends
+/// in
+/// ".sh" or ".AppImage".
 [[nodiscard]] bool IsProgram(TextView output);
 /// "{...}", blanks around it ignored.
 [[nodiscard]] bool IsKeySequence(TextView output);

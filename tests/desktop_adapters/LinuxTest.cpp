@@ -73,6 +73,46 @@ TEST(Programs, OneIsStartedWithoutTheLockAndLeavesNoZombie) {
     EXPECT_EQ(errno, ECHILD);
 }
 
+TEST(Programs, AScriptRunsInItsOwnShellAndWithoutOneInThatOfTheSystem) {
+    using std::filesystem::perms;
+    const TemporaryFolder folder;
+    PosixProgramStarter starter;
+    const auto start = [&](const char* name, const Text& firstLine, perms permissions) {
+        const auto script = folder.Write(name, firstLine + "echo $#${BASH_VERSION:+bash} >\"$0.out\"\n");
+        std::filesystem::permissions(script, permissions);
+        starter.Start(FromUtf8(script.string()));
+    };
+    start("com linha.sh", "#!/bin/bash\n", perms::owner_all);
+    start("sem linha.sh", "", perms::owner_all);
+    start("sem permissão.sh", "#!/bin/sh\n", perms::owner_read);
+    EXPECT_TRUE(Eventually([&] { return folder.Read("com linha.sh.out") == "0bash\n"; }));
+    EXPECT_TRUE(Eventually([&] { return folder.Read("sem linha.sh.out") == "0\n"; }));
+    EXPECT_TRUE(Eventually([&] { return folder.Read("sem permissão.sh.out") == "0\n"; }));
+}
+
+TEST(Programs, AnApplicationIsFoundByItsNameThePersonsOwnFirst) {
+    const TemporaryFolder folder;
+    const auto result = folder.Path() / "resultado";
+    const auto install = [&](const std::string& place, const std::string& name) {
+        folder.Write(place + "/applications/" + name,
+                     "[Desktop Entry]\nType=Application\nName=Prova\nExec=sh -c \"echo " + place +
+                         " $(readlink /proc/$$/fd/2) >>" + result.string() + "\"\n");
+    };
+    install("pessoa", "Cá.desktop");
+    install("sistema", "Cá.desktop");
+    install("sistema", "Lá.Desktop");
+    setenv("XDG_DATA_HOME", (folder.Path() / "pessoa").c_str(), 1);
+    setenv("XDG_DATA_DIRS", ("relativa:" + (folder.Path() / "sistema").string()).c_str(), 1);
+    PosixProgramStarter starter;
+    starter.Start("Nenhuma.desktop");
+    starter.Start("Cá.desktop"_w);
+    EXPECT_TRUE(Eventually([&] { return folder.Read("resultado") == "pessoa /dev/null\n"; }));
+    starter.Start("Lá.Desktop"_w);
+    EXPECT_TRUE(Eventually([&] { return folder.Read("resultado").ends_with("sistema /dev/null\n"); }));
+    unsetenv("XDG_DATA_HOME");
+    unsetenv("XDG_DATA_DIRS");
+}
+
 TEST(Sounds, ALengthIsReadPastOtherChunksAndFromNothingElse) {
     const TemporaryFolder folder;
     EXPECT_EQ(LengthOfWave(folder.Write("good.wav", Silence(250ms))), 250ms);

@@ -3,6 +3,7 @@
 #include "keyboards/CCommands.h"
 #include "keyboards/KeySymbol.h"
 #include "keyboards/Pictograms.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 
@@ -21,6 +22,23 @@ TEST(KeyOutputs, APressTellsTheKindsApartInItsOrder) {
     EXPECT_EQ(KindOfOutput("CAT_IMG_Casa\\porta.bmp"), OutputKind::Pictogram);
     for (const TextView text : {"Enter", "{", "[", "a{b}", "x.bmp.", ""})
         EXPECT_EQ(KindOfOutput(text), OutputKind::Text) << text;
+}
+
+TEST(KeyOutputs, AScriptIsAProgramOnlyWhereItStands) {
+    const TemporaryFolder folder;
+    const auto output = [&folder](const char* name) {
+        return FromUtf8((folder.Path() / name).string());
+    };
+    for (const char* name : {"acção.sh", "x.AppImage", "x.SH", "x.appimage"})
+        folder.Write(name, "");
+    std::filesystem::create_directory(folder.Path() / "pasta.sh");
+    EXPECT_EQ(KindOfOutput(output("acção.sh")), OutputKind::Program);
+    EXPECT_EQ(KindOfOutput(output("x.AppImage")), OutputKind::Program);
+    EXPECT_EQ(KindOfOutput("Correio.Desktop"), OutputKind::Program);
+    for (const char* name : {"falta.sh", "pasta.sh", "x.SH", "x.appimage"})
+        EXPECT_EQ(KindOfOutput(output(name)), OutputKind::Text) << name;
+    const auto relative = std::filesystem::relative(folder.Path() / "x.AppImage").string();
+    EXPECT_EQ(KindOfOutput(relative), OutputKind::Text) << "a text, whatever the working folder holds";
 }
 
 TEST(KeyOutputs, OnlyLowerCaseLinksBearTheMark) {
