@@ -93,25 +93,13 @@ void CKeyboard::Tap(int code) {
 }
 
 void CKeyboard::PressKey(TextView name) {
-    const auto code = CodeOf(name);
-    if (!code)
-        return;
-    output.KeyDown(*code);
-    if (std::find(held.begin(), held.end(), *code) == held.end())
-        held.push_back(*code);
+    if (const auto code = CodeOf(name))
+        output.KeyDown(*code);
 }
 
 void CKeyboard::ReleaseKey(TextView name) {
-    const auto code = CodeOf(name);
-    if (!code)
-        return;
-    output.KeyUp(*code);
-    std::erase(held, *code);
-}
-
-void CKeyboard::ReleaseAll() {
-    for (; !held.empty(); held.pop_back())
-        output.KeyUp(held.back());
+    if (const auto code = CodeOf(name))
+        output.KeyUp(*code);
 }
 
 void CKeyboard::TapKey(TextView name) {
@@ -123,8 +111,14 @@ void CKeyboard::TapKey(TextView name) {
 
 void CKeyboard::PlaySequence(TextView sequence) {
     for (const Tokens& names : SplitSequence(sequence)) {
-        std::for_each(names.begin(), names.end(), [this](const Text& name) { PressKey(name); });
-        std::for_each(names.rbegin(), names.rend(), [this](const Text& name) { ReleaseKey(name); });
+        // Codes, not names: a layout that changes meanwhile must not leave a key down.
+        std::vector<int> pressed;
+        for (const Text& name : names)
+            if (const auto code = CodeOf(name)) {
+                output.KeyDown(*code);
+                pressed.push_back(*code);
+            }
+        std::for_each(pressed.rbegin(), pressed.rend(), [this](int code) { output.KeyUp(code); });
     }
 }
 

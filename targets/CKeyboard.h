@@ -28,8 +28,6 @@ class CKeyboard {
     /// character. Nothing happens without a key.
     void PressKey(TextView name);
     void ReleaseKey(TextView name);
-    /// Releases every key that PressKey left down, the last first.
-    void ReleaseAll();
     /// Presses and releases the key of a known name; types any other text.
     void TapKey(TextView name);
     /// The output of a text key.
@@ -61,7 +59,6 @@ class CKeyboard {
     void Tap(int code);
 
     KeyOutput& output;
-    std::vector<int> held; // in the order in which they went down
 };
 
 /// The strokes that a text is typed with: letters with a dead accent as the accent and the letter ("é" as
