@@ -62,10 +62,12 @@ class PaintWatch : public QObject {
 /// that what is measured is work, never a wait for a countdown.
 class RunningProgram {
   public:
-    RunningProgram() {
+    /// `options` stand over those of the delivered profile.
+    explicit RunningProgram(TextView options = "") {
         std::filesystem::copy(ONDRILO_DELIVERED_DATA, folder.Path(),
                               std::filesystem::copy_options::recursive |
                                   std::filesystem::copy_options::overwrite_existing);
+        folder.Write("generico.cfg", ReadFile(data.Path("generico.cfg")).bytes.append(options));
         desktop.foreground = frame.Id();
         desktop.ours = {frame.Id()};
         view.OnInitialUpdate();
@@ -97,12 +99,18 @@ class RunningProgram {
     [[nodiscard]] QWidget* KeyOf(char c) {
         return WidgetOf(view.Keyboard().KeysByOutput(c == ' ' ? Text("Space") : Text(1, c)).front());
     }
-    [[nodiscard]] std::vector<QWidget*> PredictionKeyWidgets() {
+    [[nodiscard]] std::vector<QWidget*> WidgetsOf(const KeyIdentifiers& identifiers) {
         std::vector<QWidget*> widgets;
-        for (const auto& key : view.Keyboard().KeysOfType(KeyType::WordPrediction))
+        for (const auto& key : identifiers)
             widgets.push_back(WidgetOf(key));
         return widgets;
     }
+    [[nodiscard]] std::vector<QWidget*> PredictionKeyWidgets() {
+        return WidgetsOf(view.Keyboard().KeysOfType(KeyType::WordPrediction));
+    }
+    [[nodiscard]] std::vector<QWidget*> AllKeyWidgets() { return WidgetsOf(view.Keyboard().AllKeys()); }
+    void KeyDown(char key) { keys.KeyDown(key); }
+    void KeyUp(char key) { keys.KeyUp(key); }
     [[nodiscard]] std::vector<Text> Predictions() {
         std::vector<Text> labels;
         for (const auto& key : view.Keyboard().KeysOfType(KeyType::WordPrediction))
@@ -182,6 +190,32 @@ void PressKeys(benchmark::State& state, Until until) {
     state.counters.erase("allocations"); // not counted here
 }
 
+/// From a switch going down to the repainted highlight; latency and tick are left out.
+void SwitchUntilLit(benchmark::State& state) {
+    constexpr char kSwitch = 'B';
+    RunningProgram program("METODO_VARRIMENTO Passo-a-Passo\nTECLA_MANIPULO1 b\nTEMPO_DE_PREDICAO 50\n"
+                           "LATENCIA_INTERRUPTORES_VARRIMENTO 0\nNUMERO_MAXIMO_CICLOS_VARRIMENTO 1000000\n");
+    Percentiles percentiles;
+    const auto widgets = program.AllKeyWidgets();
+    while (state.KeepRunning()) {
+        const PaintWatch paint(widgets);
+        QElapsedTimer time;
+        time.start();
+        program.KeyDown(kSwitch);
+        QApplication::processEvents();
+        program.Tick(1);
+        RunningProgram::RunUntil([&] { return paint.painted; });
+        QApplication::processEvents();
+        percentiles.Add(static_cast<double>(time.nsecsElapsed()) / 1e3);
+        program.KeyUp(kSwitch);
+        QApplication::processEvents();
+        program.Tick(1);
+    }
+    percentiles.Report(state);
+    state.counters.erase("allocations"); // not counted here
+}
+
+BENCHMARK(SwitchUntilLit)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(PressKeys, UntilTheKeyIsRepainted, Until::KeyPainted)
     ->Unit(benchmark::kMillisecond)
     ->Iterations(1000);

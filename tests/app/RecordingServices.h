@@ -104,6 +104,13 @@ struct RecordingServices {
         void MenuSelected(int command) override { journal.Note("menu " + std::to_string(command)); }
     };
 
+    struct Pictograms : PictogramWriter {
+        void Insert(const COnScreenKeyData& key, TextView standsFor, CWordProcessor&) override {
+            inserted.emplace_back(key.label, standsFor);
+        }
+        std::vector<std::pair<Text, Text>> inserted; ///< pictograms and what they stand for
+    };
+
     [[nodiscard]] SessionServices All() {
         return {log,     metrics,     speech,     agent,           gps,       bluetooth,
                 context, cooperation, userRecord, externalTargets, pictograms};
@@ -119,7 +126,7 @@ struct RecordingServices {
     Cooperation cooperation;
     Record userRecord;
     ExternalTargets externalTargets;
-    PictogramWriter pictograms;
+    Pictograms pictograms;
 };
 
 } // namespace ondrilo

@@ -114,6 +114,10 @@ class RunningSystem : public testing::Test {
         Drain();
     }
     void Click(TextView output) { Click(KeyOf(output)); }
+    void SelectByScanning(COnScreenKeyIdentifier key) {
+        queue.Post(Message::UM_SCAN_KEY_SELECTED, key.Packed());
+        Drain();
+    }
     /// The person's own key.
     void Press(int code) {
         keys.KeyDown(code);

@@ -9,61 +9,100 @@ constexpr COnScreenKeyIdentifier kSentenceKey{0, 0, 2};
 
 struct Stages {
     TextView options;
-    TextView presses; ///< for each press of one key: h heard, s shown, d done; "hs" counts as "b"
+    Text texts;      ///< for each press of a key that writes text: h heard, s shown, b both, d done
+    Text pictograms; ///< the same for pictograms, which are never shown
 };
 
-/// What a person hears, sees and reads after each press of the same key.
-class StageTest : public RunningSystem, public testing::WithParamInterface<Stages> {
+/// What a person hears, sees and reads after each press of the same key, with predictions in capitals and
+/// without.
+class StageTest : public RunningSystem, public testing::WithParamInterface<std::tuple<Stages, TextView>> {
   protected:
+    StageTest() {
+        // Everything is followed by itself, so that a key offers the same again.
+        folder.Write("geral.par", "___ olá 5\nolá olá 5\n"_w);
+        folder.Write("geral.frs", "___ 1\nbom|dia. 3\n");
+        folder.Write("geral.paf", "___ bom|dia. 3\nbom|dia. bom|dia. 3\n");
+    }
+    void StartStages() {
+        StartWriting(Text(std::get<0>(GetParam()).options).append(std::get<1>(GetParam())));
+    }
+    [[nodiscard]] const Text& Expected() const { return std::get<0>(GetParam()).texts; }
+    [[nodiscard]] const Text& ExpectedOfPictograms() const { return std::get<0>(GetParam()).pictograms; }
+
     char Observe(const std::function<void()>& press) {
         services.speech.spoken.clear();
         windows.texts.clear();
-        const auto before = Written();
+        const auto before = std::pair(Written(), services.pictograms.inserted.size());
         press();
         const bool heard = !services.speech.spoken.empty();
         const bool shown = !windows.texts.empty();
-        if (Written() != before)
+        if (std::pair(Written(), services.pictograms.inserted.size()) != before)
             return heard || shown ? '?' : 'd';
         return heard ? (shown ? 'b' : 'h') : (shown ? 's' : '-');
     }
-    Text ObserveThree(const std::function<void()>& press) {
+    Text ObserveFour(const std::function<void()>& press) {
         Text presses;
-        for (int i = 0; i < 3; ++i)
+        for (int i = 0; i < 4; ++i)
             presses += Observe(press);
         return presses;
     }
 };
 
-TEST_P(StageTest, ATextKeyGoesThroughItsStages) {
-    StartWriting(GetParam().options);
-    EXPECT_EQ(ObserveThree([this] { Click("o"); }), GetParam().presses);
+TEST_P(StageTest, TextKeysGoThroughTheirStagesByMouseAndSwitch) {
+    StartStages();
+    EXPECT_EQ(ObserveFour([this] { Click("o"); }), Expected());
+    EXPECT_EQ(ObserveFour([this] { SelectByScanning(KeyOf("l")); }), Expected());
 }
 
-TEST_P(StageTest, AWordKeyGoesThroughItsStages) {
-    // Everything is followed by itself, so that the key offers the same word again.
-    folder.Write("geral.par", "___ olá 5\nolá olá 5\n"_w);
-    StartWriting(GetParam().options);
-    EXPECT_EQ(ObserveThree([this] { Click(kWordKey); }), GetParam().presses);
+TEST_P(StageTest, WordKeysGoThroughTheirStagesByMouseSwitchAndHotKey) {
+    StartStages();
+    EXPECT_EQ(ObserveFour([this] { Click(kWordKey); }), Expected());
+    EXPECT_EQ(ObserveFour([this] { SelectByScanning(kWordKey); }), Expected());
+    EXPECT_EQ(ObserveFour([this] { Press(vk::F1); }), Expected());
 }
 
-TEST_P(StageTest, ASentenceKeyGoesThroughItsStages) {
-    folder.Write("geral.frs", "___ 1\nbom|dia. 3\n");
-    folder.Write("geral.paf", "___ bom|dia. 3\nbom|dia. bom|dia. 3\n");
-    StartWriting(GetParam().options);
-    const auto presses = ObserveThree([this] { Click(kSentenceKey); });
-    EXPECT_EQ(presses.substr(0, 2), GetParam().presses.substr(0, 2));
+TEST_P(StageTest, SentenceKeysGoThroughTheirStagesByMouseSwitchAndHotKey) {
+    StartStages();
+    EXPECT_EQ(ObserveFour([this] { Click(kSentenceKey); }), Expected());
+    EXPECT_EQ(ObserveFour([this] { SelectByScanning(kSentenceKey); }), Expected());
+    EXPECT_EQ(ObserveFour([this] { Press(vk::F1 + Key(kSentenceKey).data.label[1] - '1'); }), Expected());
 }
 
-TEST_P(StageTest, AHotKeyGoesThroughItsStages) {
-    folder.Write("geral.par", "___ olá 5\nolá olá 5\n"_w);
-    StartWriting(GetParam().options);
-    EXPECT_EQ(ObserveThree([this] { Press(vk::F1); }), GetParam().presses);
+TEST_P(StageTest, PictogramsAreHeardButNeverShown) {
+    folder.Write("Casa.tec",
+                 "LINHA L\nGRUPO G\nTECLA TECLA_PREDICAO_IMAGEM\nTECLA TECLA_PREDICAO_FRASE_IMAGENS\n"
+                 "TECLA TECLA_IMAGEM G\\gato.bmp gato G\\gato.bmp\n"
+                 "LINHA M\nGRUPO G\nTECLA TECLA_NORMAL Mais mais imagens.tec\n");
+    folder.Write("imagens.tec", "LINHA L\nGRUPO G\nTECLA TECLA_IMAGEM G\\quero.bmp quero G\\quero.bmp\n"
+                                "TECLA TECLA_IMAGEM G\\sumo.bmp sumo G\\sumo.bmp\n");
+    folder.Write("geral.pal", "[quero] 1\n[sumo] 1\n___ 1\n");
+    folder.Write("geral.par", "___ [quero] 9\n");
+    folder.Write("geral.frs", "[quero]|[sumo] 1\n___ 1\n");
+    folder.Write("geral.paf", "___ [quero]|[sumo] 3\n");
+    StartStages();
+    for (const auto& key : KeyIdentifiers{{0, 0, 2}, {0, 0, 0}, {0, 0, 1}}) {
+        EXPECT_EQ(ObserveFour([this, key] { Click(key); }), ExpectedOfPictograms());
+        EXPECT_EQ(ObserveFour([this, key] { SelectByScanning(key); }), ExpectedOfPictograms());
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Options, StageTest,
-                         testing::Values(Stages{"", "ddd"}, Stages{"OUVIR_ANTES_COMPLETAR 1\n", "hdh"},
-                                         Stages{"VER_ANTES_COMPLETAR 1\n", "sds"},
-                                         Stages{"OUVIR_ANTES_COMPLETAR 1\nVER_ANTES_COMPLETAR 1\n", "bdb"}));
+INSTANTIATE_TEST_SUITE_P(
+    Options, StageTest,
+    testing::Combine(
+        testing::Values(Stages{"", "dddd", "dddd"}, Stages{"OUVIR_ANTES_COMPLETAR 1\n", "hdhd", "hdhd"},
+                        Stages{"VER_ANTES_COMPLETAR 1\n", "sdsd", "dddd"},
+                        Stages{"OUVIR_ANTES_COMPLETAR 1\nVER_ANTES_COMPLETAR 1\n", "bdbd", "hdhd"}),
+        testing::Values("", "PALAVRAS_PREDITAS_EM_MAIUSCULAS 1\n")));
+
+TEST_F(RunningSystem, AKeyThatWasOnlyHeardOrShownAwaitsItsConfirmation) {
+    StartWriting("OUVIR_ANTES_COMPLETAR 1\n");
+    Click("o");
+    EXPECT_EQ(view->Keyboard().HalfSelected(), KeyOf("o"));
+    Click("[Limpar-Area-Trabalho]");
+    EXPECT_EQ(view->Keyboard().HalfSelected(), std::nullopt) << "a command is done at once";
+    Click("o");
+    EXPECT_EQ(view->Keyboard().HalfSelected(), std::nullopt) << "the key was heard before: now it is done";
+}
 
 TEST_F(RunningSystem, AnotherKeyBetweenTwoPressesOfAKeyStartsItsStagesAnew) {
     StartWriting("OUVIR_ANTES_COMPLETAR 1\n");

@@ -25,6 +25,13 @@ def prepare_data(desktop, delivered=None):
     shutil.copytree(delivered or Path(sys.argv[2]), desktop.data)
 
 
+def set_option(desktop, key, value, profile='generico'):
+    path = desktop.data / (profile + '.cfg')
+    lines = ['%s %s' % (key, value) if line.split(' ')[0] == key else line
+             for line in path.read_text('cp1252').splitlines()]
+    path.write_text('\n'.join(lines) + '\n', 'cp1252')
+
+
 def expect(condition, what):
     if not condition:
         raise Failure(what)

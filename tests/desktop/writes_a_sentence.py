@@ -2,14 +2,7 @@
 """A person writes "Olá. Tudo bem" with clicks and keys, and chooses predicted words by click and hot key."""
 
 from desktop import Program, wait_for
-from story import expect, play, prepare_data
-
-
-def set_option(desktop, key, value):
-    path = desktop.data / 'generico.cfg'
-    lines = ['%s %s' % (key, value) if line.split(' ')[0] == key else line
-             for line in path.read_text('cp1252').splitlines()]
-    path.write_text('\n'.join(lines) + '\n', 'cp1252')
+from story import expect, play, prepare_data, set_option
 
 
 def story(desktop, program):
