@@ -12,6 +12,7 @@ constexpr Milliseconds kHoverRepeat{4000};
 KeyActivation::KeyActivation(COnScreenKeyboard& keyboard, MessageQueue& queue, TimerService& timers,
                              SoundPlayer& sounds, const DataFolder& data)
     : keyboard(keyboard), queue(queue), timers(timers), sounds(sounds), data(data),
+      dwell(keyboard, timers, [this](auto key) { Press(key, PressButton::Left); }),
       observation(keyboard.Observe(*this)) {
 }
 
@@ -23,20 +24,32 @@ void KeyActivation::Press(COnScreenKeyIdentifier key, PressButton button) {
         ShowPressDot(key);
     }
     Post(Message::UM_KEY_PRESS, key, static_cast<int>(button));
+    // Last: until the press is handled, the key still reads as half selected by the press before.
+    dwell.Pressed(key);
 }
 
-void KeyActivation::PointerEntered(COnScreenKeyIdentifier key) {
+void KeyActivation::PointerEntered(COnScreenKeyIdentifier key, Point position) {
     if (keyboard.Key(key).hovered)
         return;
     keyboard.SetHovered(key, true);
     hoverCount = 0;
     AskForHoverNotice(key, kHoverDelay);
+    dwell.PointerEntered(key, position);
+}
+
+void KeyActivation::PointerMoved(COnScreenKeyIdentifier key, Point position) {
+    dwell.PointerMoved(key, position);
 }
 
 void KeyActivation::PointerLeft(COnScreenKeyIdentifier key) {
+    dwell.PointerLeft(key);
     keyboard.SetHovered(key, false);
     hoverCount = 0;
     hoverTimer.reset();
+}
+
+void KeyActivation::KeysMoved(Point position) {
+    dwell.KeysMoved(position);
 }
 
 void KeyActivation::KeysReplaced() {

@@ -1,6 +1,7 @@
 #include "keyboards/ui/CColorButton.h"
 
 #include "keyboards/ui/KeyPainter.h"
+#include "platform/qt/QtConversion.h"
 
 #include <QMouseEvent>
 
@@ -26,6 +27,7 @@ CColorButton::CColorButton(COnScreenKeyIdentifier identifier, KeyActivation& act
     : QPushButton(parent), identifier(identifier), activation(activation) {
     setObjectName(QString("key_%1_%2_%3").arg(identifier.line).arg(identifier.group).arg(identifier.key));
     setFocusPolicy(Qt::NoFocus);
+    setMouseTracking(true);
     // The mouse handlers below never reach the base class, so this is the press of an assistive program.
     connect(this, &QPushButton::pressed, this,
             [this] { this->activation.Press(this->identifier, PressButton::Left); });
@@ -43,6 +45,14 @@ void CColorButton::ShowFace(const KeyFace& face, bool pressDot) {
         update();
 }
 
+bool CColorButton::ShowDwell(double progress) {
+    if (progress == dwell)
+        return false;
+    dwell = progress;
+    update();
+    return true;
+}
+
 /// A style that polishes a button has it repainted with what is behind it, and at each move of the pointer.
 void CColorButton::showEvent(QShowEvent* event) {
     QPushButton::showEvent(event);
@@ -55,11 +65,17 @@ void CColorButton::paintEvent(QPaintEvent*) {
     PaintKey(painter, rect(), painted);
     if (pressDotShowing)
         PaintPressDot(painter, rect(), painted.mark);
+    if (dwell > 0)
+        PaintDwellRing(painter, rect(), painted, dwell);
 }
 
 void CColorButton::mousePressEvent(QMouseEvent* event) {
     if (const auto button = PressButtonOf(event->button()))
         activation.Press(identifier, *button);
+}
+
+void CColorButton::mouseMoveEvent(QMouseEvent* event) {
+    activation.PointerMoved(identifier, FromQPoint(event->globalPosition().toPoint()));
 }
 
 void CColorButton::mouseReleaseEvent(QMouseEvent*) {
@@ -71,8 +87,8 @@ void CColorButton::mouseDoubleClickEvent(QMouseEvent* event) {
         Q_EMIT doubleClicked();
 }
 
-void CColorButton::enterEvent(QEnterEvent*) {
-    activation.PointerEntered(identifier);
+void CColorButton::enterEvent(QEnterEvent* event) {
+    activation.PointerEntered(identifier, FromQPoint(event->globalPosition().toPoint()));
 }
 
 void CColorButton::leaveEvent(QEvent*) {

@@ -18,6 +18,8 @@ class CColorButton : public QPushButton {
 
     /// While the press dot shows, what is painted stays as it was when the dot came.
     void ShowFace(const KeyFace& face, bool pressDot);
+    /// The part of the dwell time that has passed, 0 to 1; false if it shows already.
+    bool ShowDwell(double progress);
 
   Q_SIGNALS:
     /// The left button was pressed for a second time in short order; that it was pressed went to
@@ -28,6 +30,7 @@ class CColorButton : public QPushButton {
     void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
@@ -39,6 +42,7 @@ class CColorButton : public QPushButton {
     KeyFace latest;
     KeyFace painted;
     bool pressDotShowing = false;
+    double dwell = 0;
 };
 
 } // namespace ondrilo

@@ -131,6 +131,11 @@ void PaintPageMark(QPainter& painter, const QRectF& key, const KeyFace& face) {
     painter.fillRect(bar, face.mark);
 }
 
+QColor Translucent(QColor color, int alpha) {
+    color.setAlpha(alpha);
+    return color;
+}
+
 } // namespace
 
 void PaintKey(QPainter& painter, const QRectF& key, const KeyFace& face) {
@@ -150,12 +155,32 @@ void PaintKey(QPainter& painter, const QRectF& key, const KeyFace& face) {
 void PaintPressDot(QPainter& painter, const QRectF& key, const QColor& color) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    auto translucent = color;
-    translucent.setAlpha(70);
-    painter.setBrush(translucent);
+    painter.setBrush(Translucent(color, 70));
     painter.setPen(Qt::NoPen);
     const double radius = std::min(key.width(), key.height()) * 2 / 5;
     painter.drawEllipse(key.center(), radius, radius);
+    painter.restore();
+}
+
+void PaintDwellRing(QPainter& painter, const QRectF& key, const KeyFace& face, double progress) {
+    constexpr int sixteenths = 16; // of a degree: the unit of arcs
+    const double side = std::min(key.width(), key.height());
+    const double pen = std::max(side / 16, 3.0);
+    QRectF circle(0, 0, side * 4 / 5 - pen, side * 4 / 5 - pen);
+    circle.moveCenter(key.center());
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    // A picture may have any colour; on the others the fill is there already.
+    if (face.content == KeyFace::Content::Picture) {
+        painter.setPen(QPen(face.fill, pen + 2));
+        painter.drawEllipse(circle);
+    }
+    painter.setPen(QPen(Translucent(face.mark, 50), pen));
+    painter.drawEllipse(circle);
+    // Not opaque, so that letters of the same colour stand out from it.
+    painter.setPen(QPen(Translucent(face.mark, 170), pen, Qt::SolidLine, Qt::FlatCap));
+    painter.drawArc(circle, 90 * sixteenths, -static_cast<int>(progress * 360 * sixteenths));
     painter.restore();
 }
 

@@ -4,6 +4,11 @@
 #include "keyboards/ui/KeyPicture.h"
 #include "platform/qt/QtConversion.h"
 
+#include <QCursor>
+#include <QEvent>
+
+#include <algorithm>
+
 namespace ondrilo {
 
 KeyboardWidget::KeyboardWidget(COnScreenKeyboard& keyboard, MessageQueue& queue, TimerService& timers,
@@ -13,12 +18,18 @@ KeyboardWidget::KeyboardWidget(COnScreenKeyboard& keyboard, MessageQueue& queue,
       activation(keyboard, queue, timers, sounds, data), observation(keyboard.Observe(*this)) {
     setObjectName("keyboard");
     setAccessibleName(tr("Teclado de Ecrã"));
+    installEventFilter(this);
+    window()->installEventFilter(this);
     KeysReplaced();
     LayoutChanged();
 }
 
 void KeyboardWidget::KeyChanged(COnScreenKeyIdentifier identifier) {
-    if (const auto view = views.find(identifier); view != views.end())
+    const auto view = views.find(identifier);
+    if (view == views.end())
+        return;
+    // A notice is about one change: where it was the dwell, the face is as before.
+    if (!view->second.button->ShowDwell(keyboard.Key(identifier).dwell))
         Refresh(identifier, view->second);
 }
 
@@ -30,6 +41,7 @@ void KeyboardWidget::KeysReplaced() {
 }
 
 void KeyboardWidget::LayoutChanged() {
+    TellWhereThePointerRests();
     const auto size = keyboard.GetSize();
     resize(size.width, size.height);
     for (auto& [identifier, view] : views) {
@@ -38,6 +50,19 @@ void KeyboardWidget::LayoutChanged() {
         // Settings reach the keys without a notice for each: a layout follows them.
         Refresh(identifier, view);
     }
+}
+
+/// The keys move with the keyboard and with its window, which may follow the caret or come back from the task
+/// bar.
+bool KeyboardWidget::eventFilter(QObject* watched, QEvent* event) {
+    constexpr QEvent::Type moves[] = {QEvent::Move, QEvent::Show, QEvent::WindowStateChange};
+    if (std::find(std::begin(moves), std::end(moves), event->type()) != std::end(moves))
+        TellWhereThePointerRests();
+    return QWidget::eventFilter(watched, event);
+}
+
+void KeyboardWidget::TellWhereThePointerRests() {
+    activation.KeysMoved(FromQPoint(QCursor::pos()));
 }
 
 void KeyboardWidget::AddView(COnScreenKeyIdentifier identifier) {

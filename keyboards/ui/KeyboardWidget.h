@@ -33,6 +33,9 @@ class KeyboardWidget : public QWidget, private KeyboardObserver {
     void KeysReplaced() override;
     void LayoutChanged() override;
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void TellWhereThePointerRests();
+
     void AddView(COnScreenKeyIdentifier identifier);
     void Refresh(COnScreenKeyIdentifier identifier, KeyView& view);
 

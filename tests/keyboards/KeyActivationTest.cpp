@@ -77,7 +77,7 @@ TEST_F(KeyActivationTest, ASilentPressStillEndsTheSoundOfTheOneBefore) {
 TEST_F(KeyActivationTest, AKeyUnderThePointerIsSpokenAsOftenAsTheProfileSays) {
     settings.hoverSpeechLimit = 2;
     keyboard.ApplySettings(settings);
-    activation.PointerEntered(kActive);
+    activation.PointerEntered(kActive, {5, 5});
     EXPECT_TRUE(keyboard.Key(kActive).hovered);
     timers.Fire(Milliseconds{400});
     EXPECT_THAT(Posted(), ElementsAre(MessageEvent{Message::UM_KEY_HOVER, 65536 + 1, 0}));
@@ -88,18 +88,37 @@ TEST_F(KeyActivationTest, AKeyUnderThePointerIsSpokenAsOftenAsTheProfileSays) {
 
     activation.PointerLeft(kActive);
     EXPECT_FALSE(keyboard.Key(kActive).hovered);
-    activation.PointerEntered(kActive);
+    activation.PointerEntered(kActive, {5, 5});
     timers.Fire(Milliseconds{400});
     EXPECT_THAT(Posted(), SizeIs(1)) << "the count starts again";
+}
+
+TEST_F(KeyActivationTest, ADwellIsPressedLikeAClickAndAClickEndsADwell) {
+    settings.dwellTime = 100;
+    keyboard.ApplySettings(settings);
+    const auto rest = [this] {
+        for (int i = 0; i < 4; ++i)
+            timers.Fire(Milliseconds{25});
+        return Posted();
+    };
+    activation.PointerEntered(kActive, {5, 5});
+    EXPECT_THAT(rest(), ElementsAre(MessageEvent{Message::UM_KEY_PRESS, 65536 + 1, 0}));
+    EXPECT_TRUE(keyboard.Key(kActive).pressDotShowing);
+    EXPECT_THAT(sounds.played, SizeIs(1));
+
+    activation.PointerLeft(kActive);
+    activation.PointerEntered(kActive, {6, 6});
+    activation.Press(kActive, PressButton::Left);
+    EXPECT_THAT(rest(), SizeIs(1));
 }
 
 TEST_F(KeyActivationTest, LeavingAKeyOrReplacingTheKeyboardEndsWhatWasPending) {
     settings.hoverSpeechLimit = 5;
     keyboard.ApplySettings(settings);
-    activation.PointerEntered(kActive);
+    activation.PointerEntered(kActive, {5, 5});
     activation.PointerLeft(kActive);
     timers.Fire(Milliseconds{400});
-    activation.PointerEntered(kActive);
+    activation.PointerEntered(kActive, {5, 5});
     activation.Press(kActive, PressButton::Left);
     Open();
     Posted();

@@ -142,6 +142,25 @@ TEST(KeyPainting, APictureLeavesRoomForItsCaptionAndKeepsItsShape) {
     EXPECT_NEAR(below.width(), below.height(), 1);
 }
 
+TEST(KeyPainting, TheDwellRingGrowsClockwiseFromTheTopAndLeavesTheMiddleFree) {
+    const auto face = MakeKeyFace(BlueKey("TECLA_NORMAL", "", "a"), Settings(), false, {}); // its mark is red
+    const auto ring = [&face](double progress) {
+        return Painted(kKey, 2, [&](QPainter& painter) {
+            PaintDwellRing(painter, QRect(QPoint(), kKey), face, progress);
+        });
+    };
+    const auto quarter = ring(0.25);
+    EXPECT_EQ(InkOf(quarter), QRect(60, 10, 80, 80)) << "the full circle shows faintly: 4/5 of the height";
+    const auto grown = [](const QImage& image, int x, int y) {
+        return qBlue(image.pixel(x, y)) < 128;
+    };
+    EXPECT_TRUE(grown(quarter, 126, 24)) << "upper right";
+    EXPECT_FALSE(grown(quarter, 126, 76)) << "lower right";
+    EXPECT_FALSE(grown(quarter, 73, 24)) << "upper left";
+    EXPECT_TRUE(grown(ring(0.9), 73, 76)) << "lower left";
+    EXPECT_EQ(ring(1).pixel(100, 50), qRgb(255, 255, 255));
+}
+
 TEST(KeyPicture, JoinsWhatLoadsAndWidensLowPicturesByWholeFactors) {
     const TemporaryFolder folder;
     std::filesystem::create_directories(folder.Path() / "CAT_IMG_Casa");

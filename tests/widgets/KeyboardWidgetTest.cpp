@@ -17,7 +17,20 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr Milliseconds kDot{300}, kRest{400}, kRepeat{4000};
+constexpr Milliseconds kDot{300}, kRest{400}, kRepeat{4000}, kDwellStep{25};
+
+/// Counts the paints of a widget.
+class PaintCounter : public QObject {
+  public:
+    explicit PaintCounter(QWidget* widget) { widget->installEventFilter(this); }
+    int paints = 0;
+
+  private:
+    bool eventFilter(QObject*, QEvent* event) override {
+        paints += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
 
 class KeyboardWidgetTest : public testing::Test {
   protected:
@@ -152,6 +165,40 @@ TEST_F(KeyboardWidgetTest, RestingOnAKeyLightsItAndAsksForSpeechAsOftenAsTheProf
     EXPECT_EQ(key->grab().toImage(), rest);
 }
 
+TEST_F(KeyboardWidgetTest, APointerThatComesOrMovesStartsTheRingAndOneThatWasThereDoesNot) {
+    settings.dwellTime = 400;
+    keyboard.ApplySettings(settings);
+    auto* key = KeyWidget("key_0_0_0");
+    const auto enter = [key](QPoint position) {
+        QEnterEvent event(position, position, position);
+        QApplication::sendEvent(key, &event);
+    };
+    enter(QCursor::pos());
+    timers.Fire(kDwellStep);
+    EXPECT_EQ(keyboard.Key({0, 0, 0}).dwell, 0) << "the pointer was there before the keyboard";
+    const auto lit = key->grab().toImage();
+
+    QMouseEvent move(QEvent::MouseMove, {5, 5}, {5, 5}, Qt::NoButton, Qt::NoButton, {});
+    QApplication::sendEvent(key, &move);
+    timers.Fire(kDwellStep);
+    const auto first = key->grab().toImage();
+    EXPECT_NE(first, lit);
+    const PaintCounter other(KeyWidget("key_0_0_1"));
+    timers.Fire(kDwellStep);
+    QApplication::processEvents();
+    EXPECT_NE(key->grab().toImage(), first) << "it grows";
+    EXPECT_EQ(other.paints, 0);
+
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(key, &leave);
+    enter({9, 9});
+    EXPECT_EQ(key->grab().toImage(), lit);
+    window->move(3, 3);
+    QApplication::processEvents();
+    timers.Fire(kDwellStep);
+    EXPECT_EQ(key->grab().toImage(), lit) << "the window moved under the pointer";
+}
+
 TEST_F(KeyboardWidgetTest, APredictedPictogramIsReadOnceForEachLabel) {
     auto* key = KeyWidget("key_1_0_1");
     keyboard.SetLabel({1, 0, 1}, "CAT_IMG_Casa\\porta.bmp");
@@ -164,19 +211,6 @@ TEST_F(KeyboardWidgetTest, APredictedPictogramIsReadOnceForEachLabel) {
     keyboard.SetLabel({1, 0, 1}, "");
     EXPECT_EQ(CountPixels(key->grab().toImage(), qRgb(0, 255, 0)), 0);
 }
-
-/// Counts the paints of a widget.
-class PaintCounter : public QObject {
-  public:
-    explicit PaintCounter(QWidget* widget) { widget->installEventFilter(this); }
-    int paints = 0;
-
-  private:
-    bool eventFilter(QObject*, QEvent* event) override {
-        paints += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-};
 
 TEST_F(KeyboardWidgetTest, OnlyTheKeyThatChangedIsRepainted) {
     QApplication::processEvents();
