@@ -5,13 +5,6 @@
 #include <algorithm>
 
 namespace ondrilo {
-namespace {
-
-constexpr TextView kKeys[] = {"TEMPO_PERMANENCIA"};
-constexpr int kLongestDwell = 10'000;
-constexpr int kDwellStep = 100;
-
-} // namespace
 
 void CAccessOptions::Set(AccessOption option, int value) {
     values[static_cast<std::size_t>(option)] = value;
@@ -19,8 +12,9 @@ void CAccessOptions::Set(AccessOption option, int value) {
 }
 
 int CAccessOptions::DwellTime() const {
-    const int time = std::clamp(Get(access_option::TEMPO_PERMANENCIA), 0, kLongestDwell);
-    return time - time % kDwellStep;
+    constexpr auto row = kAccessOptions[static_cast<std::size_t>(access_option::TEMPO_PERMANENCIA)];
+    const int time = std::clamp(Get(access_option::TEMPO_PERMANENCIA), row.least, row.most);
+    return time - time % row.step;
 }
 
 void CAccessOptions::Load(const std::filesystem::path& path) {
@@ -30,8 +24,8 @@ void CAccessOptions::Load(const std::filesystem::path& path) {
 }
 
 void CAccessOptions::CopyFrom(const CAccessOptions& other) {
+    changed = changed || values != other.values;
     values = other.values;
-    changed = true;
 }
 
 SaveResult CAccessOptions::Save() {
@@ -46,7 +40,7 @@ void CAccessOptions::Parse(TextView bytes) {
     values = {};
     ForEachOptionLine(bytes, [this](TextView key, TextView line) {
         for (std::size_t i = 0; i < values.size(); ++i)
-            if (key == kKeys[i])
+            if (key == kAccessOptions[i].key)
                 values[i] = IntegerOfLine(line);
     });
 }
@@ -54,7 +48,7 @@ void CAccessOptions::Parse(TextView bytes) {
 Text CAccessOptions::Format() const {
     Text bytes;
     for (std::size_t i = 0; i < values.size(); ++i)
-        AppendOption(bytes, kKeys[i], values[i]);
+        AppendOption(bytes, kAccessOptions[i].key, values[i]);
     return bytes;
 }
 

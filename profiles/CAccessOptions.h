@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <filesystem>
+#include <iterator>
 
 namespace ondrilo {
 
@@ -16,13 +17,25 @@ namespace access_option {
 using enum AccessOption;
 } // namespace access_option
 
+/// A line of the file, with the range of its value.
+struct AccessOptionRow {
+    TextView key;
+    int least;
+    int most;
+    int step; ///< values are multiples of it
+};
+/// By the values of AccessOption.
+inline constexpr AccessOptionRow kAccessOptions[] = {
+    {"TEMPO_PERMANENCIA", 0, 10'000, 100},
+};
+
 /// How a person reaches the keys, in a file beside the profile's options, "<name>.acs", "KEY value" a line.
 /// Without the file all is as by default.
 class CAccessOptions {
   public:
     [[nodiscard]] int Get(AccessOption option) const { return values[static_cast<std::size_t>(option)]; }
     void Set(AccessOption option, int value);
-    /// TEMPO_PERMANENCIA within its range: 0 to 10,000 ms in steps of 100.
+    /// TEMPO_PERMANENCIA, brought into its range: 0 to 10,000 ms in steps of 100.
     [[nodiscard]] int DwellTime() const;
 
     /// Remembers `path` as the file; an absent one gives the defaults.
@@ -36,7 +49,7 @@ class CAccessOptions {
     [[nodiscard]] Text Format() const;
 
   private:
-    std::array<int, 1> values{};
+    std::array<int, std::size(kAccessOptions)> values{};
     std::filesystem::path file;
     bool changed = false;
 };

@@ -7,16 +7,20 @@ void CUserProfile::CopyOptionsOf(const CUserProfile& other) {
     copy.profileName = properties.profileName;
     copy.filePath = properties.filePath;
     properties = std::move(copy);
+    access.CopyFrom(other.access);
     changed = true;
 }
 
 void CUserProfile::Load(const std::filesystem::path& path) {
     changed = true;
     properties.Load(path);
+    access.Load(std::filesystem::path(path).replace_extension(".acs"));
 }
 
-SaveResult CUserProfile::Save() const {
-    return changed ? properties.Save() : SaveResult{};
+SaveResult CUserProfile::Save() {
+    auto accessSaved = access.Save();
+    auto saved = changed ? properties.Save() : SaveResult{};
+    return saved ? accessSaved : saved;
 }
 
 std::vector<Text> CUserProfile::LoadDictionary() {

@@ -29,14 +29,16 @@ class CUserProfile {
     }
     [[nodiscard]] bool IsChanged() const { return changed; }
 
-    /// Takes over all options of another profile; name and file stay its own.
+    /// Takes over all options of another profile; name and files stay its own.
     void CopyOptionsOf(const CUserProfile& other);
 
-    /// Reads the options. Marks the profile as changed, even if there is no such file: a profile that was
-    /// read is written at every save, which also brings its file up to the current list of keys.
+    /// Reads the options, and the access options in the ".acs" beside them. Marks the profile as changed,
+    /// even if there is no such file: a profile that was read is written at every save, which also brings
+    /// its file up to the current list of keys.
     void Load(const std::filesystem::path& path);
-    /// Writes the options if the profile is marked as changed; the mark stays.
-    SaveResult Save() const;
+    /// Writes the options if the profile is marked as changed; the mark stays. Access options are written if
+    /// they differ from their file. The first problem, if any.
+    SaveResult Save();
 
     /// True if the dictionary stays in memory for the whole run.
     [[nodiscard]] bool KeepsDictionary() const { return properties.IsOn(option::MANTER_DICIONARIO_MEMORIA); }

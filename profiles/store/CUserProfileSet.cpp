@@ -18,6 +18,14 @@ Text AsLines(const std::vector<Text>& names) {
     return lines;
 }
 
+SaveResult RemoveFile(const std::filesystem::path& path) {
+    std::error_code error;
+    std::filesystem::remove(path, error);
+    if (!error)
+        return {};
+    return {Text("Não foi possível apagar o ficheiro "_w) + FromUtf8(path.filename().string())};
+}
+
 } // namespace
 
 Text ProfileFile(TextView name, TextView extension) {
@@ -142,6 +150,7 @@ void CUserProfileSet::CreateProfile(TextView name) {
         Tell(ReplaceFile(folder.Path(ProfileFile(name, extension)), {}));
     if (const auto base = ReadFile(GetBaseProfilePath()); base.CouldOpen())
         Tell(ReplaceFile(folder.Path(ProfileFile(name, ".cfg")), base.bytes));
+    Tell(RemoveFile(folder.Path(ProfileFile(name, ".acs"))));
     Add(name);
     Open(name);
 }

@@ -79,7 +79,7 @@ class CUserProfileSet {
     int active = -1;
 };
 
-/// File names of a profile: name and extension (".cfg", ".pal", ".par", ".abr", ".frs", ".paf").
+/// File names of a profile: name and extension (".cfg", ".acs", ".pal", ".par", ".abr", ".frs", ".paf").
 [[nodiscard]] Text ProfileFile(TextView name, TextView extension);
 /// All profiles whose options lie in a folder, whether listed or not.
 [[nodiscard]] std::vector<Text> GetProfileNamesInFolder(const DataFolder& folder);

@@ -135,6 +135,7 @@ TEST_F(ProfileSet, ANewProfileStartsFromTheBaseOptionsWithEmptyDictionaries) {
     folder.Write("utils", "ana");
     folder.Write("base.cfg", "ALTURA_TECLAS 91\n# nota\n");
     folder.Write("eva.pal", "antigo 4\n");
+    folder.Write("eva.acs", "TEMPO_PERMANENCIA 900\n");
     profiles.Load();
     profiles.Open("ana");
     profiles.CreateProfile("eva");
@@ -143,6 +144,8 @@ TEST_F(ProfileSet, ANewProfileStartsFromTheBaseOptionsWithEmptyDictionaries) {
     EXPECT_EQ(folder.Read("eva.pal"), "");
     EXPECT_EQ(profiles.Active().properties.profileName, "eva");
     EXPECT_EQ(profiles.Active().properties.Get(option::ALTURA_TECLAS), 91);
+    EXPECT_EQ(profiles.Active().access.DwellTime(), 0);
+    EXPECT_FALSE(Exists("eva.acs"));
     EXPECT_EQ(profiles.Active().dictionary.WordCount(), 2);
     EXPECT_THAT(boxes.shown, IsEmpty());
 }
@@ -186,6 +189,7 @@ TEST_F(ProfileSet, TheGenericProfileAndTheActiveOneCannotBeRemoved) {
 
 TEST_F(ProfileSet, CopyingOptionsKeepsNameFileAndDictionary) {
     folder.Write("rui.cfg", "ALTURA_TECLAS 99\nNOME_TECLADO Frases\n");
+    folder.Write("rui.acs", "TEMPO_PERMANENCIA 1200\n");
     profiles.Load();
     profiles.Open("ana");
     dialogs.chosenProfile = "rui";
@@ -195,9 +199,31 @@ TEST_F(ProfileSet, CopyingOptionsKeepsNameFileAndDictionary) {
     EXPECT_EQ(profiles.Active().dictionary.WordCount(), 2);
     profiles.SaveActive();
     EXPECT_NE(folder.Read("ana.cfg").find("ALTURA_TECLAS 99\n"), Text::npos);
+    EXPECT_EQ(folder.Read("ana.acs"), "TEMPO_PERMANENCIA 1200\n");
     EXPECT_EQ(folder.Read("rui.cfg"), "ALTURA_TECLAS 99\nNOME_TECLADO Frases\n");
     dialogs.chosenProfile.reset();
     EXPECT_FALSE(profiles.CopyFromProfile());
+}
+
+TEST_F(ProfileSet, AccessOptionsAreReadIntoTheirRangeAndWrittenOnlyAfterAChange) {
+    const Text byHand = "# nota\nOUTRA 1\nTEMPO_PERMANENCIA 1250\n";
+    folder.Write("ana.acs", byHand);
+    folder.Write("rui.acs", "TEMPO_PERMANENCIA 99999\n");
+    profiles.Load();
+    EXPECT_EQ(profiles.At(2).access.DwellTime(), 10'000);
+    profiles.Open("ana");
+    EXPECT_EQ(profiles.Active().access.DwellTime(), 1200);
+    profiles.SaveActive();
+    EXPECT_EQ(folder.Read("ana.acs"), byHand);
+
+    profiles.Active().access.Set(access_option::TEMPO_PERMANENCIA, 800);
+    std::filesystem::remove(folder.Path() / "ana.acs");
+    std::filesystem::create_directory_symlink("/proc", folder.Path() / "ana.acs"); // nothing can replace it
+    profiles.SaveActive();
+    EXPECT_EQ(told.size(), 1U);
+    std::filesystem::remove(folder.Path() / "ana.acs");
+    profiles.SaveActive();
+    EXPECT_EQ(folder.Read("ana.acs"), "TEMPO_PERMANENCIA 800\n") << "a save that failed is made up for";
 }
 
 TEST_F(ProfileSet, AFolderThatIsGoneIsToldOnceAndNotAtEverySave) {
