@@ -1,6 +1,7 @@
 #include "tools/CheckOptions.h"
 
 #include "keyboards/KeyboardFile.h"
+#include "profiles/CAccessOptions.h"
 #include "profiles/CSystemOptions.h"
 #include "profiles/CUserProfileProperties.h"
 #include "profiles/OptionLines.h"
@@ -54,6 +55,18 @@ void CheckOptionLines(CheckedFile& file, Visit visit) {
     }
 }
 
+/// A value that can be read as it stands and lies in its range; false if that was told not to be so.
+bool CheckRange(CheckedFile& file, TextView word, int least, int most) {
+    const auto value = FieldScanner(word).Integer().value_or(0);
+    if (const auto problem = IntegerProblem(word); !problem.empty())
+        file.Tell(problem);
+    else if (value < least || value > most)
+        file.Tell(Quoted(word) + " is outside " + std::to_string(least) + " to " + std::to_string(most));
+    else
+        return true;
+    return false;
+}
+
 class ProfileCheck {
   public:
     ProfileCheck(const DataFolder& folder, TextView name, CheckReport& report)
@@ -93,16 +106,11 @@ class ProfileCheck {
     void CheckInteger(const ProfileOption& option, TextView word) {
         constexpr IntegerOption inTicks[] = {option::TEMPO_DE_PREDICAO, option::VELOCIDADE_VARRIMENTO,
                                              option::LATENCIA_INTERRUPTORES_VARRIMENTO};
-        if (const auto problem = IntegerProblem(word); !problem.empty()) {
-            file.Tell(problem);
+        if (!CheckRange(file, word, option.least, option.most))
             return;
-        }
         const auto value = FieldScanner(word).Integer().value_or(0);
         const IntegerOption handle{option.index};
-        if (value < option.least || value > option.most)
-            file.Tell(Quoted(word) + " is outside " + std::to_string(option.least) + " to " +
-                      std::to_string(option.most));
-        else if (handle == option::TECLAS_COMPLETAR && !Contains(std::array{0, 48, 112}, value))
+        if (handle == option::TECLAS_COMPLETAR && !Contains(std::array{0, 48, 112}, value))
             file.Tell(Quoted(word) + " is neither 0, 48 nor 112");
         else if (Contains(inTicks, handle) && value % kTick != 0)
             file.Tell(Quoted(word) + " is no multiple of " + std::to_string(kTick) +
@@ -140,6 +148,26 @@ class ProfileCheck {
     const DataFolder& folder;
     CheckedFile file;
 };
+
+void CheckAccessOptions(const DataFolder& folder, TextView name, CheckReport& report) {
+    CheckedFile file(report, folder, name, kOptionLineLimit);
+    CheckOptionLines(file, [&](const std::vector<TextView>& words) {
+        const auto* option = std::ranges::find(kAccessOptions, words[0], &AccessOptionRow::key);
+        if (option == std::end(kAccessOptions)) {
+            file.Tell(Quoted(words[0]) + " is no option: skipped");
+            return false;
+        }
+        if (words.size() < 2)
+            file.Tell(Text(option->key) + " has no value: read as 0");
+        else if (CheckRange(file, words[1], option->least, option->most) &&
+                 *FieldScanner(words[1]).Integer() % option->step != 0)
+            file.Tell(Quoted(words[1]) + " is no multiple of " + std::to_string(option->step) +
+                      ": rounded down");
+        if (words.size() > 2)
+            file.Tell("what follows " + Quoted(words[1]) + " is lost");
+        return true;
+    });
+}
 
 void CheckSystemOptions(const DataFolder& folder, const std::vector<Text>& profiles, CheckReport& report) {
     CheckedFile file(report, folder, "configsis", kOptionLineLimit);
@@ -181,6 +209,8 @@ void CheckProfileList(const DataFolder& folder, CheckReport& report) {
 void CheckOptions(const DataFolder& folder, const std::vector<Text>& profiles, CheckReport& report) {
     for (const auto& name : folder.Files(".cfg"))
         ProfileCheck(folder, name, report).Run();
+    for (const auto& name : folder.Files(".acs"))
+        CheckAccessOptions(folder, name, report);
     for (const TextView required : {"generico.cfg", "base.cfg"})
         if (!std::filesystem::exists(folder.Path(required)))
             report.push_back({Text(required), 0, "missing"});

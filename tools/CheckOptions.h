@@ -4,7 +4,7 @@
 
 namespace ondrilo {
 
-/// Profiles (".cfg"), the options of the installation and the list of profiles.
+/// Profiles (".cfg" and ".acs"), the options of the installation and the list of profiles.
 void CheckOptions(const DataFolder& folder, const std::vector<Text>& profiles, CheckReport& report);
 
 } // namespace ondrilo

@@ -130,6 +130,18 @@ TEST_F(Check, TellsOptionsThatAreUnknownUnreadableOrOutOfRange) {
                     HasSubstr("11: what follows \"Comic\" is lost")));
 }
 
+TEST_F(Check, TellsAccessOptionsThatWouldNotHoldAsTheyStand) {
+    folder.Write("ana.acs", "# nota\nTEMPO_PERMANENCIA 10100\nTEMPO_PERMANENCIA 250\nCHAVE 1\n"
+                            "TEMPO_PERMANENCIA 2s\n");
+    folder.Write("rui.acs", "TEMPO_PERMANENCIA 10000\n");
+    EXPECT_THAT(Of("ana.acs", Options()),
+                ElementsAre(HasSubstr("2: \"10100\" is outside 0 to 10000"),
+                            HasSubstr("3: \"250\" is no multiple of 100"), HasSubstr("3: replaces line 2"),
+                            HasSubstr("4: \"CHAVE\" is no option"), HasSubstr("5: \"2s\" is"),
+                            HasSubstr("5: replaces line 2")));
+    EXPECT_THAT(Of("rui.acs", Options()), IsEmpty());
+}
+
 TEST_F(Check, TellsProfilesThatAreNamedButNotThere) {
     folder.Write("configsis", "PERFIL_UTILIZADOR_ARRANQUE eva\nFOO 1\nADAPTACAO_CONTEXTO sim\n"
                               "LISTA_PRIORIDADES_ADAPTACAO_CONTEXTO ana;;;rui\n");
