@@ -25,7 +25,7 @@ TECLA TECLA_NORMAL t t t
 LINHA Vazia
 LINHA Comandos
 GRUPO Comandos
-TECLA TECLA_NORMAL Apagar apagar [Apagar-Palavra]
+TECLA TECLA_NORMAL Apagar apagar [Limpar-Area-Trabalho]
 TECLA TECLA_NORMAL Outro outro outro.tec
 """
 ONLY_KEY = """LINHA Perfil
