@@ -32,8 +32,7 @@ void KeyFlash::SetFlashed(bool flashed) {
 void KeyFlash::Change() {
     SetFlashed(changesLeft % 2 == 0);
     --changesLeft;
-    if (changesLeft > 0)
-        timer = timers.After(kHalf, [this] { Change(); });
+    timer = changesLeft > 0 ? timers.After(kHalf, [this] { Change(); }) : nullptr;
 }
 
 } // namespace ondrilo
