@@ -114,8 +114,8 @@ class Desktop:
         """Key names of X, such as "F1" or "shift+a", one after the other."""
         self.xdotool('key', '--delay', '60', *keys)
 
-    def click(self, x, y):
-        self.xdotool('mousemove', x, y, 'click', 1)
+    def click(self, x, y, button=1):
+        self.xdotool('mousemove', x, y, 'click', button)
 
     def active_title(self):
         result = subprocess.run(['xdotool', 'getactivewindow', 'getwindowname'], capture_output=True, text=True)
@@ -129,6 +129,7 @@ class Program:
     """The running program as a person meets it."""
 
     NAME = 'ondrilo'
+    LIT = (0x1B, 0x2A, 0x41)
 
     def __init__(self, desktop, path):
         self.desktop = desktop
@@ -180,9 +181,23 @@ class Program:
         push_button = self.atspi.Role.PUSH_BUTTON
         return [e.get_name() for e in self.all(lambda e: e.get_role() == push_button)]
 
-    def click(self, name):
-        extents = self.key(name).get_extents(self.atspi.CoordType.SCREEN)
-        self.desktop.click(extents.x + extents.width // 2, extents.y + extents.height // 2)
+    def place(self, element):
+        return element.get_extents(self.atspi.CoordType.SCREEN)
+
+    def click(self, name, button=1):
+        self.click_element(self.key(name), button)
+
+    def click_element(self, element, button=1):
+        place = self.place(element)
+        self.desktop.click(place.x + place.width // 2, place.y + place.height // 2, button)
+
+    def is_lit(self, name):
+        """Whether the key shows the colours of a lit one (COR_LETRAS of the delivered profile behind)."""
+        place = self.place(self.key(name))
+        corner = '1x1+%d+%d' % (place.x + 4, place.y + place.height - 5)
+        pixel = subprocess.run(['import', '-window', 'root', '-crop', corner, '-depth', '8', 'rgb:-'], check=True,
+                               capture_output=True).stdout
+        return tuple(pixel) == self.LIT
 
     def editor(self):
         editor = next(iter(self.all(lambda e: e.get_role() == self.atspi.Role.TEXT and e.get_editable_text_iface())),

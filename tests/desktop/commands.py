@@ -1,0 +1,193 @@
+#!/usr/bin/python3
+"""What keys do beyond writing: commands, links, key sequences and programs, in the editor and in another program.
+
+The other program is a terminal that writes every byte it gets into a file. It reports a loss of its focus as
+bytes too, so that a click on a key that takes the focus away for a moment shows in the file.
+"""
+
+import os
+import shutil
+import signal
+import time
+
+from desktop import Failure, Program, wait_for
+from story import expect, play, prepare_data, set_option
+
+KEYBOARD = """LINHA Palavras
+GRUPO Palavras
+TECLA TECLA_PREDICAO
+TECLA TECLA_PREDICAO
+LINHA Texto
+GRUPO Texto
+TECLA TECLA_NORMAL a a a
+TECLA TECLA_NORMAL p p p
+TECLA TECLA_NORMAL <Nenhum> maiúscula Shift
+TECLA TECLA_NORMAL nada inactiva n 0
+GRUPO Comandos
+TECLA TECLA_NORMAL Palavra palavra [Apagar-Palavra;;;de;;;vez]
+TECLA TECLA_NORMAL Frase frase [Apagar-Frase]
+TECLA TECLA_NORMAL Limpar limpar [Limpar-Area-Trabalho]
+TECLA TECLA_NORMAL Mais mais [Mostrar-Predições-Seguintes]
+LINHA Outros
+GRUPO Comandos
+TECLA TECLA_NORMAL Registo registo [Trocar-Modo-Logging]
+TECLA TECLA_NORMAL Ana ana [Alterar-Perfil-Utilizador;;;ana]
+TECLA TECLA_NORMAL Enviar enviar [Enviar-Mensagem-Editor_Externo]
+TECLA TECLA_NORMAL Sair sair [Sair-Aplicação]
+TECLA TECLA_NORMAL Outro outro outro.TEC
+LINHA Teclas
+GRUPO Sequencias
+TECLA TECLA_NORMAL Duas duplicar {Ctrl+a;;;Ctrl+c;;;Direita;;;Ctrl+v}
+TECLA TECLA_NORMAL Teclas sequência {Ctrl+a;;;Ctrl+c;;;Enter;;;a;;;Shift+b;;;Tab;;;Esquerda}
+TECLA TECLA_NORMAL Mal mal {Ctrl+Shift+;;;+Alt;;;{}}
+GRUPO Programas
+TECLA TECLA_NORMAL Guiao guião FOLDER/faz;;;isto.sh
+TECLA TECLA_NORMAL Programa programa Prova.desktop
+"""
+BACK = 'LINHA Volta\nGRUPO Volta\nTECLA TECLA_NORMAL Volta volta Comandos.tec\n'
+WORDS = {'pato': 9, 'pêra': 8, 'porta': 7, 'prato': 6}
+
+
+class Terminal:
+    """A real program beside ours."""
+
+    TITLE = 'Terminal'
+
+    def __init__(self, desktop):
+        self.desktop = desktop
+        self.file = desktop.folder / 'recebido'
+        reader = "stty raw -echo; printf '\\033[?1004h'; exec cat >>%s" % self.file
+        desktop.start(['env', 'LC_ALL=C.UTF-8', 'xterm', '-u8', '-geometry', '60x5-0-0', '-T', self.TITLE, '-e',
+                       'sh', '-c', reader])
+        wait_for(self.file.exists, 'the terminal')
+        self.window = desktop.xdotool('search', '--sync', '--name', '^%s$' % self.TITLE).split()[0]
+        self.focus()
+
+    def focus(self):
+        """Brings it to the front, and forgets what it has got until then."""
+        self.desktop.xdotool('windowactivate', '--sync', self.window)
+        self.file.write_bytes(b'')
+        wait_for(self.gets_an_a, 'a key in the terminal, without a modifier')
+        self.desktop.press('Return')  # comes after all that is still on its way
+        wait_for(lambda: self.file.read_bytes().endswith(b'\r'), 'the end of the keys')
+        self.file.write_bytes(b'')
+
+    def gets_an_a(self):
+        self.desktop.press('a')
+        return self.file.read_bytes().endswith(b'a')
+
+    def expect(self, text):
+        try:
+            wait_for(lambda: self.file.read_bytes() == text, '', 5)
+        except Failure:
+            raise Failure('the terminal got %r, not %r' % (self.file.read_bytes(), text)) from None
+
+
+def prepare(desktop):
+    prepare_data(desktop)
+    proof = desktop.folder / 'prova'
+    (desktop.folder / 'faz isto.sh').write_text('echo guião >>%s\n' % proof)
+    applications = desktop.data.parents[1] / 'applications'
+    applications.mkdir()
+    (applications / 'Prova.desktop').write_text(
+        '[Desktop Entry]\nType=Application\nName=Prova\nExec=sh -c "echo programa >>%s"\n' % proof)
+    (desktop.data / 'Comandos.tec').write_text(KEYBOARD.replace('FOLDER', str(desktop.folder)), 'cp1252')
+    (desktop.data / 'outro.tec').write_text(BACK, 'cp1252')
+    (desktop.data / 'geral.pal').write_text(''.join('%s %d\n' % pair for pair in WORDS.items()), 'cp1252')
+    for name in ('geral.par', 'geral.frs', 'geral.paf'):
+        (desktop.data / name).write_text('')
+    set_option(desktop, 'NOME_TECLADO', 'Comandos')
+    for file in desktop.data.glob('generico.*'):
+        shutil.copy(file, desktop.data / ('ana' + file.suffix))
+    with (desktop.data / 'utils').open('a') as profiles:
+        profiles.write('ana\n')
+    return proof
+
+
+def commands(desktop, ondrilo):
+    desktop.xdotool('type', 'ola mundo. bom dia')
+    ondrilo.expect_text('ola mundo. bom dia')
+    ondrilo.click('palavra')
+    ondrilo.expect_text('ola mundo. bom ')
+    ondrilo.click('frase')
+    ondrilo.expect_text('ola mundo. ')
+    ondrilo.click('limpar')
+    ondrilo.expect_text('')
+
+    ondrilo.click('p')
+    wait_for(lambda: ondrilo.keys()[:2] == ['pato', 'pêra'], 'the first predictions')
+    ondrilo.click('mais')
+    wait_for(lambda: ondrilo.keys()[:2] == ['porta', 'prato'], 'the next predictions')
+    ondrilo.click('outro')
+    wait_for(lambda: ondrilo.keys() == ['volta'] and '(outro)' in ondrilo.title(), 'the linked keyboard')
+    ondrilo.click('volta')
+    wait_for(lambda: '(Comandos)' in ondrilo.title(), 'the way back')
+    ondrilo.expect_text('p')
+
+    ondrilo.click('duplicar')
+    ondrilo.expect_text('pp')
+    ondrilo.click('limpar')
+    for key in ('maiúscula', 'a', 'a', 'maiúscula', 'maiúscula', 'a'):
+        ondrilo.click(key)
+    ondrilo.expect_text('Aaa')
+    expect(not ondrilo.is_lit('maiúscula'), 'the key of the Shift stayed lit')
+
+    ondrilo.click('registo')
+    wait_for(lambda: '(Logging Ligado)' in ondrilo.title() and ondrilo.is_lit('registo'), 'logging switched on')
+    ondrilo.click('ana')
+    wait_for(lambda: 'ana (Comandos) (Logging Desligado)' in ondrilo.title(), 'the profile "ana"')
+    expect('REGISTAR_EVENTOS 1\n' in (desktop.data / 'generico.cfg').read_text('cp1252'), 'the option was not saved')
+
+
+def beside_another_program(desktop, ondrilo, proof):
+    time.sleep(0.7)  # the target is attached half a second after the session's start
+    for key in ('a', 'p', 'a'):
+        ondrilo.click(key)
+    ondrilo.expect_text('apa')
+    terminal = Terminal(desktop)
+
+    def click(name, button=1):
+        ondrilo.click(name, button)
+        expect(desktop.active_title() == Terminal.TITLE, 'a click on "%s" took the focus' % name)
+
+    for button in (1, 2, 3):
+        click('inactiva', button)
+    for button in (2, 3):
+        click('sequência', button)
+    click('mal')
+    click('limpar')
+    click('sequência')
+    terminal.expect(b'\x01\x03\raB\t\x1b[D')
+    click('enviar')
+    terminal.expect(b'\x01\x03\raB\t\x1b[Dapa')
+    click('guião')
+    wait_for(lambda: proof.exists() and proof.read_text() == 'guião\n', 'the script')
+    click('programa')
+    wait_for(lambda: proof.read_text() == 'guião\nprograma\n', 'the application')
+    terminal.expect(b'\x01\x03\raB\t\x1b[Dapa')
+    ondrilo.expect_text('apa')
+    return terminal
+
+
+def story(desktop, program):
+    proof = prepare(desktop)
+    ondrilo = Program(desktop, program)
+    commands(desktop, ondrilo)
+    terminal = beside_another_program(desktop, ondrilo, proof)
+
+    for number in (signal.SIGINT, signal.SIGTERM, signal.SIGKILL):
+        ondrilo.click_element(ondrilo.editor())
+        time.sleep(0.7)  # as above
+        ondrilo.click('maiúscula')
+        wait_for(lambda: ondrilo.is_lit('maiúscula'), 'the Shift')
+        os.kill(ondrilo.process.pid, number)
+        code = ondrilo.process.wait(10)
+        expect(code == (-number if number == signal.SIGKILL else 0), 'the program ended with %d' % code)
+        terminal.focus()
+        ondrilo = Program(desktop, program)
+
+    ondrilo.click('sair')
+    expect(ondrilo.process.wait(10) == 0, 'the program did not end well')
+
+
+play(story)
