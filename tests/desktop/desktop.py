@@ -136,8 +136,9 @@ class Program:
         self.process = desktop.start([str(path)], stderr=None)
         import gi  # needs the display and bus of the story in the environment
         gi.require_version('Atspi', '2.0')
-        from gi.repository import Atspi
+        from gi.repository import Atspi, GLib
         self.atspi = Atspi
+        self.gone = GLib.Error
         self.window = wait_for(self._window, 'the window of the program', 30)
         focused = Atspi.StateType.FOCUSED
         wait_for(lambda: self.editor().get_state_set().contains(focused), 'the focus in the editor')
@@ -157,6 +158,10 @@ class Program:
 
     def all(self, accept):
         """Every element of the window, in tree order, that `accept` likes and that shows."""
+        return wait_for(lambda: self._walk(accept), 'a tree that stands still')[0]
+
+    def _walk(self, accept):
+        """What was found, in a tuple; nothing if an element went away meanwhile."""
         found = []
 
         def walk(element):
@@ -167,8 +172,11 @@ class Program:
                 if child:
                     walk(child)
         self.window.clear_cache()
-        walk(self.window)
-        return found
+        try:
+            walk(self.window)
+        except self.gone:
+            return None
+        return (found,)
 
     def key(self, name, seconds=15.0):
         """The key of that name (its description); of several the last, since predictions stand first."""
