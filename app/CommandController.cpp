@@ -120,7 +120,8 @@ void CommandController::SwitchLogging() {
 void CommandController::ExecuteKeySequence(COnScreenKeyIdentifier key, const ActionOrigin& origin) {
     const auto sequence = keyboard.Key(key).data.output;
     events.ActionWithText(origin, "KEY_SEQUENCE_EXECUTION_", sequence, key);
-    state.pendingSimulatedKeys += CKeyboard::CountSequenceKeys(sequence);
+    if (targets.Current()) // nobody else tells of the keys
+        state.pendingSimulatedKeys += CKeyboard::CountSequenceKeys(sequence);
     keyboardSimulator.PlaySequence(sequence);
 }
 

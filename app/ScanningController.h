@@ -15,6 +15,8 @@ class ScanningController {
     ScanningController(const Environment& environment, const CUserProfileSet& profiles,
                        COnScreenKeyboard& keyboard, SpeechController& speech, EventWriter& events);
 
+    /// The start of a session: no switch has been pressed yet.
+    void Reset() { scanning.Reset(); }
     /// To be called for each new keyboard. Tells the person if no timer can be had.
     void Start();
     void Stop() { timer.reset(); }

@@ -23,23 +23,24 @@ constexpr int kPreviewMargin = 5;
 } // namespace
 
 SessionController::SessionController(const Environment& environment, CUserProfileSet& profiles,
-                                     KeyboardController& keyboards, LoggingController& logging,
-                                     WindowPlacement& placement, TargetController& targetController,
-                                     PreviewController& preview, PredictionKeys& keys,
-                                     Predictions& predictions, KeySender& sender,
+                                     KeyboardController& keyboards, ScanningController& scanning,
+                                     LoggingController& logging, WindowPlacement& placement,
+                                     TargetController& targetController, PreviewController& preview,
+                                     PredictionKeys& keys, Predictions& predictions, KeySender& sender,
                                      CKeyboard& keyboardSimulator, CCommands& commands, SessionState& state,
                                      const SessionServices& services)
     : queue(environment.queue), frame(environment.frame), windows(environment.windows),
-      desktop(environment.desktop), profiles(profiles), keyboards(keyboards), logging(logging),
-      placement(placement), targetController(targetController), preview(preview), keys(keys),
-      predictions(predictions), sender(sender), keyboardSimulator(keyboardSimulator), commands(commands),
-      state(state), services(services) {
+      desktop(environment.desktop), profiles(profiles), keyboards(keyboards), scanning(scanning),
+      logging(logging), placement(placement), targetController(targetController), preview(preview),
+      keys(keys), predictions(predictions), sender(sender), keyboardSimulator(keyboardSimulator),
+      commands(commands), state(state), services(services) {
 }
 
 void SessionController::StartSession() {
     const WaitCursor wait(frame);
     running = true;
     logging.ResetMetrics();
+    scanning.Reset();
     logging.StartLog();
     SelectVoice();
     keyboards.LoadKeyboard(Options().activeKeyboardName);

@@ -11,10 +11,11 @@ namespace ondrilo {
 class SessionController {
   public:
     SessionController(const Environment& environment, CUserProfileSet& profiles,
-                      KeyboardController& keyboards, LoggingController& logging, WindowPlacement& placement,
-                      TargetController& targetController, PreviewController& preview, PredictionKeys& keys,
-                      Predictions& predictions, KeySender& sender, CKeyboard& keyboardSimulator,
-                      CCommands& commands, SessionState& state, const SessionServices& services);
+                      KeyboardController& keyboards, ScanningController& scanning, LoggingController& logging,
+                      WindowPlacement& placement, TargetController& targetController,
+                      PreviewController& preview, PredictionKeys& keys, Predictions& predictions,
+                      KeySender& sender, CKeyboard& keyboardSimulator, CCommands& commands,
+                      SessionState& state, const SessionServices& services);
 
     /// Given once, before the first session: the clock can change the profile itself.
     void SetClock(SessionClock& sessionClock) { clock = &sessionClock; }
@@ -41,6 +42,7 @@ class SessionController {
     const Desktop& desktop;
     CUserProfileSet& profiles;
     KeyboardController& keyboards;
+    ScanningController& scanning;
     LoggingController& logging;
     WindowPlacement& placement;
     TargetController& targetController;

@@ -15,13 +15,13 @@ bool IsMicrosoftWord(TextView title) {
 
 TargetController::TargetController(const Environment& environment, const CUserProfileSet& profiles,
                                    Targets& targets, SpecialKeys& specialKeys, PreviewController& preview,
-                                   PredictionCycle& cycle, CKeyboard& keyboardSimulator,
+                                   PredictionCycle& cycle, KeySender& sender, CKeyboard& keyboardSimulator,
                                    Countdowns& countdowns, EventWriter& events,
                                    const SessionServices& services)
     : desktop(environment.desktop), queue(environment.queue), frame(environment.frame),
       windows(environment.windows), profiles(profiles), targets(targets), specialKeys(specialKeys),
-      preview(preview), cycle(cycle), keyboardSimulator(keyboardSimulator), countdowns(countdowns),
-      events(events), services(services) {
+      preview(preview), cycle(cycle), sender(sender), keyboardSimulator(keyboardSimulator),
+      countdowns(countdowns), events(events), services(services) {
 }
 
 void TargetController::CreateInternalEditor() {
@@ -82,6 +82,9 @@ void TargetController::AttachTarget() {
         AttachInternal();
     else
         AttachExternal(lastForegroundWindow);
+    // Nobody would tell of the letter that ends it, and the key itself writes nowhere now.
+    if (!targets.Current())
+        sender.ReleaseShift();
     specialKeys.MapSpecialKeys();
     cycle.RunPrediction();
 }

@@ -3,6 +3,7 @@
 #include "app/Countdown.h"
 #include "app/Environment.h"
 #include "app/EventWriter.h"
+#include "app/KeySender.h"
 #include "app/PredictionCycle.h"
 #include "app/PreviewController.h"
 #include "app/SpecialKeys.h"
@@ -14,8 +15,8 @@ class TargetController {
   public:
     TargetController(const Environment& environment, const CUserProfileSet& profiles, Targets& targets,
                      SpecialKeys& specialKeys, PreviewController& preview, PredictionCycle& cycle,
-                     CKeyboard& keyboardSimulator, Countdowns& countdowns, EventWriter& events,
-                     const SessionServices& services);
+                     KeySender& sender, CKeyboard& keyboardSimulator, Countdowns& countdowns,
+                     EventWriter& events, const SessionServices& services);
 
     /// The internal editor, if the profile has one.
     void CreateInternalEditor();
@@ -43,6 +44,7 @@ class TargetController {
     SpecialKeys& specialKeys;
     PreviewController& preview;
     PredictionCycle& cycle;
+    KeySender& sender;
     CKeyboard& keyboardSimulator;
     Countdowns& countdowns;
     EventWriter& events;

@@ -22,7 +22,6 @@ constexpr Row kTable[] = {
     {vk::Tab, XKB_KEY_Tab, "Tab"},
     {vk::Tab, XKB_KEY_ISO_Left_Tab, "Tab"},
     {12, XKB_KEY_Clear, "Clear"},
-    {12, XKB_KEY_KP_Begin, "Clear"},
     {vk::Enter, XKB_KEY_Return, "Enter"},
     {vk::Enter, XKB_KEY_KP_Enter, "Enter"},
     {vk::Shift, XKB_KEY_Shift_L, "Shift"},
@@ -69,6 +68,8 @@ constexpr Row kTable[] = {
     {vk::Num0 + 3, XKB_KEY_KP_3, "Num 3"},
     {vk::Num0 + 4, XKB_KEY_KP_4, "Num 4"},
     {vk::Num0 + 5, XKB_KEY_KP_5, "Num 5"},
+    // Without Num Lock it does nothing else, and it is the usual switch.
+    {vk::Num0 + 5, XKB_KEY_KP_Begin, "Num 5"},
     {vk::Num0 + 6, XKB_KEY_KP_6, "Num 6"},
     {vk::Num0 + 7, XKB_KEY_KP_7, "Num 7"},
     {vk::Num0 + 8, XKB_KEY_KP_8, "Num 8"},

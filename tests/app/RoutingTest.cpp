@@ -102,6 +102,11 @@ TEST_F(RunningSystem, TheFocusSettlesBeforeTheTargetChanges) {
     desktop.MoveFocus(2);
     EXPECT_TRUE(view->TextTargets().IsInternal()) << "another window of the same program keeps the target";
 
+    Click("Shift");
+    desktop.MoveFocus(7);
+    Tick(6);
+    EXPECT_TRUE(keys.held.empty()) << "everything typed there would be in capitals";
+
     desktop.MoveFocus(0);
     journal.Take();
     Tick(6);
