@@ -109,6 +109,19 @@ constexpr Row kTable[] = {
 
 constexpr int kLastFunctionKey = vk::F1 + 23;
 
+struct PadKey {
+    Keysym cursor, digit;
+};
+
+constexpr PadKey kPad[] = {
+    {XKB_KEY_KP_Insert, XKB_KEY_KP_0},       {XKB_KEY_KP_End, XKB_KEY_KP_1},
+    {XKB_KEY_KP_Down, XKB_KEY_KP_2},         {XKB_KEY_KP_Next, XKB_KEY_KP_3},
+    {XKB_KEY_KP_Left, XKB_KEY_KP_4},         {XKB_KEY_KP_Begin, XKB_KEY_KP_5},
+    {XKB_KEY_KP_Right, XKB_KEY_KP_6},        {XKB_KEY_KP_Home, XKB_KEY_KP_7},
+    {XKB_KEY_KP_Up, XKB_KEY_KP_8},           {XKB_KEY_KP_Prior, XKB_KEY_KP_9},
+    {XKB_KEY_KP_Delete, XKB_KEY_KP_Decimal},
+};
+
 bool IsWithin(Keysym symbol, Keysym first, Keysym last) {
     return symbol >= first && symbol <= last;
 }
@@ -126,6 +139,16 @@ std::optional<int> VirtualKeyOf(Keysym symbol) {
     if (row == std::end(kTable))
         return std::nullopt;
     return row->code;
+}
+
+Keysym WithoutShift(Keysym symbol) {
+    for (const auto& [cursor, digit] : kPad) {
+        if (symbol == cursor)
+            return digit;
+        if (symbol == digit)
+            return cursor;
+    }
+    return symbol;
 }
 
 std::vector<Keysym> SymbolsOf(int code) {

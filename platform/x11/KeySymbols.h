@@ -15,6 +15,9 @@ using Keysym = std::uint32_t;
 /// The virtual key of a key that gives `symbol`; for keys that write, their symbol without modifiers. The
 /// numeric pad gives its digits with Num Lock on and the keys of the cursor block with Num Lock off.
 [[nodiscard]] std::optional<int> VirtualKeyOf(Keysym symbol);
+/// What a key of the numeric pad that gives `symbol` with Shift would give without: Shift turns round what
+/// Num Lock says. All other symbols stay.
+[[nodiscard]] Keysym WithoutShift(Keysym symbol);
 /// The symbols of a virtual key, the most usual first.
 [[nodiscard]] std::vector<Keysym> SymbolsOf(int code);
 

@@ -47,7 +47,10 @@ std::vector<int> VirtualKeysOf(const QKeyEvent& event, const KeyOutput& layout) 
     // Counted like that for the characters that need it, and so counted back.
     if (event.nativeVirtualKey() == XKB_KEY_ISO_Level3_Shift)
         return {vk::Control, vk::Alt};
-    if (const auto code = VirtualKeyOf(event.nativeVirtualKey()))
+    // A switch on the numeric pad stays the same key while a Shift waits for its letter.
+    const auto symbol = event.modifiers().testFlag(Qt::ShiftModifier) ? WithoutShift(event.nativeVirtualKey())
+                                                                      : event.nativeVirtualKey();
+    if (const auto code = VirtualKeyOf(symbol))
         return {*code};
     if (!writes)
         return {kUnknownKey};

@@ -27,12 +27,14 @@ LINHA Comandos
 GRUPO Comandos
 TECLA TECLA_NORMAL Apagar apagar [Limpar-Area-Trabalho]
 TECLA TECLA_NORMAL Outro outro outro.tec
+TECLA TECLA_NORMAL <Nenhum> maiúscula Shift
 """
 ONLY_KEY = """LINHA Perfil
 GRUPO Perfil
 TECLA TECLA_NORMAL Perfil perfil [Alterar-Perfil-Utilizador;;;regular]
 """
 LIT = (0x1B, 0x2A, 0x41)  # COR_LETRAS of the profile, the background of lit keys
+PAD_6 = 85  # the key itself: for its symbol xdotool would press and release modifiers too
 
 
 def prepare(desktop):
@@ -73,7 +75,7 @@ def story(desktop, program):
         desktop.xdotool('keyup', key)
 
     desktop.press('Num_Lock')
-    step, pick = (lambda: switch('F9')), (lambda: switch('KP_6'))
+    step, pick = (lambda: switch('F9')), (lambda: switch(PAD_6))
 
     step()
     step()
@@ -96,6 +98,19 @@ def story(desktop, program):
     pick()
     pick()
     ondrilo.expect_text('')
+    for _ in range(3):
+        step()
+    pick()
+    step()
+    step()
+    pick()
+    wait_for(lambda: is_lit('maiúscula'), 'the Shift')
+    step()
+    step()
+    for _ in range(3):
+        pick()
+    ondrilo.expect_text('O')
+    expect(not is_lit('maiúscula'), 'the key of the Shift stayed lit')
     for _ in range(3):
         step()
     pick()

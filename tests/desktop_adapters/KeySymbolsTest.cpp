@@ -37,6 +37,9 @@ TEST(KeySymbols, TheNumericPadIsADigitOrACursorKeyAsNumLockHasIt) {
     EXPECT_EQ(VirtualKeyOf(XKB_KEY_KP_Divide), vk::NumDivide);
     EXPECT_EQ(SymbolsOf(vk::Home).front(), Keysym{XKB_KEY_Home}) << "pressed on the cursor block";
     EXPECT_EQ(VirtualKeyOf(XKB_KEY_XF86AudioMute), std::nullopt);
+    EXPECT_EQ(WithoutShift(XKB_KEY_KP_Right), Keysym{XKB_KEY_KP_6});
+    EXPECT_EQ(WithoutShift(XKB_KEY_KP_7), Keysym{XKB_KEY_KP_Home});
+    EXPECT_EQ(WithoutShift(XKB_KEY_Right), Keysym{XKB_KEY_Right});
 }
 
 } // namespace
