@@ -34,9 +34,22 @@ class Descriptor {
     int number;
 };
 
-bool IsFolder(const Descriptor& file) {
-    struct stat status {};
-    return ::fstat(file.Number(), &status) == 0 && S_ISDIR(status.st_mode);
+constexpr std::int64_t kSecond = 1'000'000'000; // nanoseconds
+/// The coarsest clock of a file system: a file may be changed twice in this time without showing it.
+constexpr std::int64_t kClockStep = 2 * kSecond;
+
+std::int64_t Nanoseconds(const timespec& time) {
+    return time.tv_sec * kSecond + time.tv_nsec;
+}
+
+FileIdentity IdentityFrom(const struct stat& status) {
+    return {status.st_dev, status.st_ino, status.st_size, Nanoseconds(status.st_mtim),
+            Nanoseconds(status.st_ctim)};
+}
+
+bool IsSettled(const FileIdentity& identity) {
+    timespec now{};
+    return ::clock_gettime(CLOCK_REALTIME, &now) == 0 && identity.modified < Nanoseconds(now) - kClockStep;
 }
 
 bool ReadToEnd(const Descriptor& file, Text& bytes) {
@@ -135,16 +148,30 @@ bool Replace(const fs::path& path, TextView bytes) {
 
 } // namespace
 
-FileBytes ReadFile(const fs::path& path) {
+FileIdentity IdentityOf(const fs::path& path) {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0 ? IdentityFrom(status) : FileIdentity();
+}
+
+FileBytes ReadFile(const fs::path& path, const FileIdentity& known) {
     // Non-blocking, or a pipe of that name would wait for a writer.
     const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!file.IsOpen())
-        return {errno == ENOENT || errno == ENOTDIR ? ReadState::Missing : ReadState::Broken, false, {}};
-    if (IsFolder(file))
-        return {ReadState::Broken, false, {}};
-    FileBytes read{ReadState::Complete, true, {}};
+        return {errno == ENOENT || errno == ENOTDIR ? ReadState::Missing : ReadState::Broken, false, {}, {}};
+    struct stat status {};
+    if (::fstat(file.Number(), &status) != 0 || S_ISDIR(status.st_mode))
+        return {ReadState::Broken, false, {}, {}};
+    const FileIdentity identity = IdentityFrom(status);
+    if (identity == known)
+        return {ReadState::Unchanged, true, {}, known};
+
+    FileBytes read{ReadState::Complete, true, {}, {}};
+    if (S_ISREG(status.st_mode))
+        read.bytes.reserve(static_cast<std::size_t>(status.st_size));
     if (!ReadToEnd(file, read.bytes))
         read.state = ReadState::Broken;
+    else if (IsSettled(identity))
+        read.identity = identity;
     return read;
 }
 

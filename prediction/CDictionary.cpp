@@ -5,19 +5,15 @@
 namespace ondrilo {
 namespace {
 
-constexpr SideRules kWordRules{999,
-                               511,
+constexpr SideRules kWordRules{{999, 511, false},
                                500,
-                               false,
                                "Erro na abertura do ficheiro de palavras geral"_w,
                                "Erro na abertura do ficheiro dos pares de palavras geral"_w,
                                "Erro na abertura do ficheiro de palavras do utilizador"_w,
                                "Erro na abertura do ficheiro de pares de palavras do utilizador."_w};
 
-constexpr SideRules kSentenceRules{1499,
-                                   1007,
+constexpr SideRules kSentenceRules{{1499, 1007, true},
                                    1000,
-                                   true,
                                    "Erro na abertura do ficheiro de frases"_w,
                                    "Erro na abertura do ficheiro dos pares de frases geral"_w,
                                    "Erro na abertura do ficheiro de frases do utilizador"_w,
@@ -38,7 +34,9 @@ std::size_t Take(const Vocabulary& entries, Vocabulary::Run run, std::span<Dicti
 
 } // namespace
 
-CDictionary::CDictionary() : words(kWordRules), sentences(kSentenceRules) {
+CDictionary::CDictionary(std::shared_ptr<GeneralStore> general)
+    : general(std::move(general)), words(kWordRules, *this->general),
+      sentences(kSentenceRules, *this->general) {
 }
 
 std::vector<Text> CDictionary::LoadProfileDictionaries(const DataFolder& folder, TextView name, bool adapt) {

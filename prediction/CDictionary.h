@@ -9,6 +9,7 @@
 #include "prediction/DictionarySide.h"
 
 #include <filesystem>
+#include <memory>
 #include <span>
 #include <vector>
 
@@ -21,7 +22,8 @@ namespace ondrilo {
 /// Words are stored as given: callers fold them to lower case. Sentences are normalised here.
 class CDictionary {
   public:
-    CDictionary();
+    /// Dictionaries with the same store share what they read from the same general files.
+    explicit CDictionary(std::shared_ptr<GeneralStore> general = std::make_shared<GeneralStore>());
 
     /// Loads all of a profile's files in the order that the links between them need; with `adapt`, room is
     /// made for new entries in a full dictionary. Returns the messages to show, in order.
@@ -135,6 +137,7 @@ class CDictionary {
                                std::vector<DictionaryNextEntry>& out);
     static DictionaryEntry Next(const DictionarySide& side, int& position);
 
+    std::shared_ptr<GeneralStore> general;
     DictionarySide words;
     DictionarySide sentences;
 };

@@ -1,53 +1,19 @@
 #include "prediction/DictionarySide.h"
 
+#include "prediction/EntryReader.h"
+#include "prediction/PairReader.h"
 #include "text/LineReader.h"
-#include "text/NormalForm.h"
 
 namespace ondrilo {
-namespace {
-
-/// A line of an entry file: text, text and number, or text, number and class.
-struct EntryLine {
-    TextView text;
-    std::optional<int> frequency;
-    TextView className;
-};
-
-std::optional<EntryLine> ParseEntry(TextView line) {
-    FieldScanner fields(line);
-    const auto text = fields.Word();
-    if (!text)
-        return std::nullopt;
-    EntryLine entry{*text, fields.Integer(), {}};
-    if (entry.frequency)
-        entry.className = fields.Word().value_or(TextView());
-    return entry;
-}
-
-} // namespace
 
 Text DictionarySide::LoadGeneral(const std::filesystem::path& path) {
     entries.Clear();
     totals.general = 0;
     generalPath = path;
-    const FileBytes file = ReadFile(generalPath);
-    if (!file.CouldOpen())
+    auto general = store.Entries(generalPath, rules.format);
+    if (!general)
         return Text(rules.noGeneral);
-
-    auto general = std::make_shared<GeneralEntries>();
-    LineReader lines(file.bytes, rules.lineLimit);
-    while (const auto line = lines.Next()) {
-        if (general->Count() == Vocabulary::kCapacity)
-            break;
-        const auto entry = ParseEntry(*line);
-        if (!entry)
-            continue;
-        general->Add(StoredForm(BarsToBlanks(entry->text)), entry->frequency.value_or(0),
-                     rules.sentences ? TextView() : entry->className);
-        // A bare entry has no frequency, yet it counts once in the total.
-        totals.general = WrappingSum(totals.general, entry->frequency.value_or(1));
-    }
-    general->Finish();
+    totals.general = general->Total();
     entries.Reset(std::move(general));
     return {};
 }
@@ -55,16 +21,26 @@ Text DictionarySide::LoadGeneral(const std::filesystem::path& path) {
 Text DictionarySide::LoadGeneralPairs(const std::filesystem::path& path) {
     totals.generalPairs = 0;
     generalPairsPath = path;
+    if (!entries.Untouched())
+        return AppendGeneralPairs();
+    auto pairs = store.Pairs(generalPairsPath, rules.format, entries.General());
+    if (!pairs)
+        return Text(rules.noGeneralPairs);
+    totals.generalPairs = pairs->Total();
+    entries.SetGeneralPairs(std::move(pairs));
+    return {};
+}
+
+Text DictionarySide::AppendGeneralPairs() {
     const FileBytes file = ReadFile(generalPairsPath);
     if (!file.CouldOpen())
         return Text(rules.noGeneralPairs);
-
     std::vector<GeneralPair> pairs;
-    pairs.reserve(static_cast<std::size_t>(std::count(file.bytes.begin(), file.bytes.end(), '\n')) + 1);
-    ForEachKnownPair(file.bytes, [&](EntryId first, EntryId second, int count) {
-        pairs.push_back({first, {second, count}});
-        totals.generalPairs = WrappingSum(totals.generalPairs, count);
-    });
+    PairReader reader(file.bytes, rules.format, entries);
+    for (auto read = reader.Next(); !read.empty(); read = reader.Next())
+        pairs.insert(pairs.end(), read.begin(), read.end());
+    for (const GeneralPair& pair : pairs)
+        totals.generalPairs = WrappingSum(totals.generalPairs, pair.successor.frequency);
     entries.AppendGeneralPairs(pairs);
     return {};
 }
@@ -76,10 +52,9 @@ Text DictionarySide::LoadUser(const std::filesystem::path& path) {
     if (!file.CouldOpen())
         return Text(rules.noUser);
 
-    LineReader lines(file.bytes, rules.lineLimit);
-    while (const auto line = lines.Next())
-        if (const auto entry = ParseEntry(*line))
-            AddUser(BarsToBlanks(entry->text), entry->frequency.value_or(1));
+    EntryReader reader(file.bytes, rules.format);
+    while (const auto entry = reader.Next())
+        AddUser(entry->text, entry->frequency.value_or(1));
     userChanged = false;
     return {};
 }
@@ -91,10 +66,12 @@ Text DictionarySide::LoadUserPairs(const std::filesystem::path& path) {
     if (!file.CouldOpen())
         return Text(rules.noUserPairs);
 
-    ForEachKnownPair(file.bytes, [this](EntryId first, EntryId second, int count) {
-        entries.AddUserSuccessor(first, second, count);
-        totals.userPairs = WrappingSum(totals.userPairs, count);
-    });
+    PairReader reader(file.bytes, rules.format, entries);
+    for (auto read = reader.Next(); !read.empty(); read = reader.Next())
+        for (const auto& [first, successor] : read) {
+            entries.AddUserSuccessor(first, successor.entry, successor.frequency);
+            totals.userPairs = WrappingSum(totals.userPairs, successor.frequency);
+        }
     userPairsChanged = false;
     return {};
 }
@@ -104,40 +81,6 @@ std::vector<Text> DictionarySide::Reload() {
                                LoadUser(userPath), LoadUserPairs(userPairsPath)};
     std::erase(messages, Text());
     return messages;
-}
-
-/// Reads a pair file field by field, not line by line; a record whose number is missing is left out and the
-/// next one begins where its number should stand.
-template <typename Visit>
-void DictionarySide::ForEachKnownPair(TextView bytes, Visit visit) const {
-    FieldScanner fields(bytes);
-    Text entryText;
-    Text storedText;
-    const auto find = [&](TextView token) {
-        entryText.assign(token);
-        std::replace(entryText.begin(), entryText.end(), '|', ' ');
-        if (!rules.sentences)
-            return entries.Find(entryText).entry;
-        NormalizeSentence(entryText, storedText);
-        return entries.Find(storedText).entry;
-    };
-    TextView previous;
-    EntryId first = kNoEntry;
-    while (const auto firstToken = fields.Word(rules.tokenLimit)) {
-        const auto secondToken = fields.Word(rules.tokenLimit);
-        const auto count = fields.Integer();
-        if (!secondToken || !count)
-            continue;
-        // The files are grouped by first entry.
-        if (*firstToken != previous) {
-            previous = *firstToken;
-            first = find(previous);
-        }
-        if (first == kNoEntry)
-            continue;
-        if (const EntryId second = find(*secondToken); second != kNoEntry)
-            visit(first, second, *count);
-    }
 }
 
 SaveResult DictionarySide::SaveUser() {
@@ -252,10 +195,6 @@ void DictionarySide::RemoveRarest() {
     for (EntryId entry = 0; entry < count; ++entry)
         if (entries.UserFrequency(entry) == *rarest)
             ChangeUserFrequency(entry, 0);
-}
-
-Text DictionarySide::StoredForm(TextView text) const {
-    return rules.sentences ? NormalizeSentence(text) : Text(text);
 }
 
 Text DictionarySide::FormOnFile(EntryId entry) const {

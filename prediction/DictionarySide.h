@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/FileStore.h"
+#include "prediction/GeneralStore.h"
 #include "prediction/Vocabulary.h"
 
 #include <filesystem>
@@ -18,14 +19,9 @@ struct VocabularyTotals {
 
 /// In what words and sentences differ.
 struct SideRules {
-    /// Longest read of a line of an entry file, in bytes.
-    std::size_t lineLimit;
-    /// Longest entry in a pair file, in bytes.
-    std::size_t tokenLimit;
+    EntryFormat format;
     /// An entry of the user's is shorter than this, in characters.
     std::size_t lengthLimit;
-    /// Sentences are stored normalised and have no class.
-    bool sentences;
     /// What to tell the person when a file cannot be opened.
     TextView noGeneral, noGeneralPairs, noUser, noUserPairs;
 };
@@ -34,7 +30,8 @@ struct SideRules {
 /// flags. In the files the blanks of an entry are "|"; from a file of nonsense is taken what parses.
 class DictionarySide {
   public:
-    explicit DictionarySide(const SideRules& rules) : rules(rules) {}
+    /// Both outlive this.
+    DictionarySide(const SideRules& rules, GeneralStore& store) : rules(rules), store(store) {}
 
     /// Each returns the message to show, empty if there is none.
     Text LoadGeneral(const std::filesystem::path& path);
@@ -55,19 +52,20 @@ class DictionarySide {
 
     [[nodiscard]] Vocabulary::Found Find(TextView text) const { return entries.Find(StoredForm(text)); }
     /// `text` in the form in which this side stores it.
-    [[nodiscard]] Text StoredForm(TextView text) const;
+    [[nodiscard]] Text StoredForm(TextView text) const { return rules.format.StoredForm(text); }
     [[nodiscard]] const Vocabulary& Entries() const { return entries; }
     [[nodiscard]] const VocabularyTotals& Totals() const { return totals; }
     [[nodiscard]] bool UserChanged() const { return userChanged; }
     [[nodiscard]] bool UserPairsChanged() const { return userPairsChanged; }
 
   private:
+    /// The told reading of a pair file into a vocabulary that already has more than its general entries.
+    Text AppendGeneralPairs();
     [[nodiscard]] Text FormOnFile(EntryId entry) const;
-    template <typename Visit>
-    void ForEachKnownPair(TextView bytes, Visit visit) const;
     void ChangeUserFrequency(EntryId entry, int value);
 
     const SideRules& rules;
+    GeneralStore& store;
     Vocabulary entries;
     VocabularyTotals totals;
     bool userChanged = false;

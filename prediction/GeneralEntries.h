@@ -4,6 +4,8 @@
 
 #include <cstdint>
 #include <limits>
+#include <optional>
+#include <span>
 #include <unordered_map>
 #include <vector>
 
@@ -15,6 +17,15 @@ inline constexpr EntryId kNoEntry = std::numeric_limits<EntryId>::max();
 
 /// Number of a word class within its vocabulary; 0 is the class of the words that have none.
 using ClassId = std::uint32_t;
+
+/// Counters have 32 bits, and files may hold any number: sums wrap instead of being undefined.
+inline int WrappingSum(int left, int right) {
+    return static_cast<int>(static_cast<unsigned>(left) + static_cast<unsigned>(right));
+}
+
+inline int WrappingDifference(int left, int right) {
+    return static_cast<int>(static_cast<unsigned>(left) - static_cast<unsigned>(right));
+}
 
 /// Position in `count` ascending texts at which `text` stands or would be inserted. Texts that do not ascend
 /// lead the search astray in a fixed way, never out of bounds.
@@ -41,7 +52,8 @@ class GeneralEntries {
   public:
     GeneralEntries() { Finish(); }
 
-    void Add(TextView text, int frequency, TextView className = {});
+    /// An entry without a frequency has 0, yet it counts once in the total.
+    void Add(TextView text, std::optional<int> frequency, TextView className = {});
     /// To be called once all entries are in.
     void Finish();
 
@@ -53,10 +65,14 @@ class GeneralEntries {
     [[nodiscard]] const std::vector<Text>& ClassNames() const { return classNames; }
     /// 0 for a name that no entry has.
     [[nodiscard]] ClassId FindClass(const Text& name) const;
+    /// Sum of the frequencies.
+    [[nodiscard]] int Total() const { return total; }
     /// True if the entries are strictly ascending, so that order of numbers is order of texts.
     [[nodiscard]] bool Ascending() const { return ascending; }
     /// The entry of that text, or kNoEntry; of equal texts the first.
     [[nodiscard]] EntryId Find(TextView text) const;
+    /// The same for many texts, which hardly costs more than the first: `found[i]` for `texts[i]`.
+    void FindEach(std::span<const TextView> texts, std::span<EntryId> found) const;
 
   private:
     struct Slot {
@@ -66,6 +82,8 @@ class GeneralEntries {
     };
 
     ClassId Intern(TextView className);
+    /// The first entry whose text could have that hash, or kNoEntry.
+    [[nodiscard]] EntryId Candidate(std::size_t hash) const;
     static std::uint32_t TagOf(std::size_t hash) { return static_cast<std::uint32_t>(hash >> 32); }
     [[nodiscard]] const Slot& SlotAt(std::size_t number) const { return slots[number & (slots.size() - 1)]; }
 
@@ -75,6 +93,7 @@ class GeneralEntries {
     std::vector<Text> classNames{Text()};
     std::unordered_map<Text, ClassId> classIds;
     bool ascending = true;
+    int total = 0;
     /// Open addressing by the hash of the text, at most half full.
     std::vector<Slot> slots;
 };

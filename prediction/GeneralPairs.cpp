@@ -12,8 +12,10 @@ GeneralPairs::GeneralPairs(std::size_t entries, std::span<const GeneralPair> pai
         ++starts[pair.first + 1];
     std::partial_sum(starts.begin(), starts.end(), starts.begin());
     auto next = starts;
-    for (const GeneralPair& pair : pairs)
+    for (const GeneralPair& pair : pairs) {
         successors[next[pair.first]++] = pair.successor;
+        total = WrappingSum(total, pair.successor.frequency);
+    }
 
     const auto descends = [](const GeneralSuccessor& left, const GeneralSuccessor& right) {
         return right.entry < left.entry;

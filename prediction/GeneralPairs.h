@@ -36,11 +36,14 @@ class GeneralPairs {
         return first >= disordered.size() || !disordered[first];
     }
     [[nodiscard]] bool Empty() const { return successors.empty(); }
+    /// Sum of the frequencies.
+    [[nodiscard]] int Total() const { return total; }
 
   private:
     std::vector<std::uint32_t> starts;
     std::vector<GeneralSuccessor> successors;
     std::vector<bool> disordered;
+    int total = 0;
 };
 
 } // namespace ondrilo

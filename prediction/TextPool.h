@@ -16,6 +16,8 @@ class TextPool {
         const std::size_t begin = number == 0 ? 0 : ends[number - 1];
         return {characters.data() + begin, ends[number] - begin};
     }
+    /// Has the memory that tells where the text lies fetched ahead.
+    void Prefetch(std::size_t number) const { __builtin_prefetch(&ends[number]); }
     void Add(TextView text) {
         characters.append(text);
         ends.push_back(static_cast<std::uint32_t>(characters.size()));

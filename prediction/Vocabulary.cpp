@@ -15,10 +15,6 @@ void Vocabulary::Reset(std::shared_ptr<const GeneralEntries> entries) {
 }
 
 void Vocabulary::AppendGeneralPairs(std::span<const GeneralPair> appended) {
-    if (Untouched()) {
-        pairs = std::make_shared<const GeneralPairs>(general->Count(), appended);
-        return;
-    }
     for (const auto& [first, successor] : appended) {
         SuccessorList& list = MakeOwnList(first);
         if (!list.successors.empty() && Precedes(successor.entry, list.successors.back().entry))
@@ -78,6 +74,18 @@ Vocabulary::Found Vocabulary::FindInDisorder(TextView text) const {
         if (const EntryId entry = At(position); TextOf(entry) == text)
             return {entry, position};
     return {kNoEntry, position};
+}
+
+void Vocabulary::FindEach(std::span<const TextView> texts, std::span<EntryId> found) const {
+    if (general->Ascending())
+        general->FindEach(texts, found);
+    else
+        std::fill(found.begin(), found.end(), kNoEntry);
+    if (general->Ascending() && added.empty())
+        return;
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        if (found[i] == kNoEntry)
+            found[i] = Find(texts[i]).entry;
 }
 
 Vocabulary::Run Vocabulary::WithPrefix(TextView prefix) const {

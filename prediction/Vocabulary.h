@@ -10,15 +10,6 @@
 
 namespace ondrilo {
 
-/// Counters have 32 bits, and files may hold any number: sums wrap instead of being undefined.
-inline int WrappingSum(int left, int right) {
-    return static_cast<int>(static_cast<unsigned>(left) + static_cast<unsigned>(right));
-}
-
-inline int WrappingDifference(int left, int right) {
-    return static_cast<int>(static_cast<unsigned>(left) - static_cast<unsigned>(right));
-}
-
 /// A successor with its general and its user counter.
 struct Successor {
     EntryId entry = kNoEntry;
@@ -66,8 +57,14 @@ class Vocabulary {
     void Clear() { Reset(std::make_shared<const GeneralEntries>()); }
     /// Begins anew over these general entries, without pairs and without anything of the user's.
     void Reset(std::shared_ptr<const GeneralEntries> entries);
+    /// True while all is as after Reset.
+    [[nodiscard]] bool Untouched() const { return added.empty() && ownLists.empty() && pairs->Empty(); }
+    /// Only while untouched: pairs of these general entries.
+    void SetGeneralPairs(std::shared_ptr<const GeneralPairs> shared) { pairs = std::move(shared); }
     /// Appends each pair to the tail of its first entry's successors.
     void AppendGeneralPairs(std::span<const GeneralPair> appended);
+
+    [[nodiscard]] const std::shared_ptr<const GeneralEntries>& General() const { return general; }
 
     /// Live entries, those with both counters 0 included.
     [[nodiscard]] std::size_t Count() const { return general->Count() + added.size(); }
@@ -78,6 +75,8 @@ class Vocabulary {
     };
     /// The entry and its position, or no entry and the position at which it would be inserted.
     [[nodiscard]] Found Find(TextView text) const;
+    /// The entries of many texts at once, which is far faster than one by one.
+    void FindEach(std::span<const TextView> texts, std::span<EntryId> found) const;
 
     /// Positions first to last - 1.
     struct Run {
@@ -146,7 +145,6 @@ class Vocabulary {
     [[nodiscard]] Found FindInDisorder(TextView text) const;
     [[nodiscard]] const SuccessorList* OwnList(EntryId first) const;
     SuccessorList& MakeOwnList(EntryId first);
-    [[nodiscard]] bool Untouched() const { return added.empty() && ownLists.empty() && pairs->Empty(); }
 
     std::shared_ptr<const GeneralEntries> general;
     std::shared_ptr<const GeneralPairs> pairs;

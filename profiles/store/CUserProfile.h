@@ -6,6 +6,7 @@
 #include "profiles/CUserProfileProperties.h"
 
 #include <filesystem>
+#include <memory>
 #include <vector>
 
 namespace ondrilo {
@@ -13,7 +14,8 @@ namespace ondrilo {
 /// One person: options and vocabulary. Lives in its CUserProfileSet and is never copied.
 class CUserProfile {
   public:
-    CUserProfile() = default;
+    /// `general`: what profiles read once for all of them.
+    explicit CUserProfile(std::shared_ptr<GeneralStore> general) : dictionary(std::move(general)) {}
     CUserProfile(const CUserProfile&) = delete;
     CUserProfile& operator=(const CUserProfile&) = delete;
 

@@ -1,5 +1,6 @@
 #include "profiles/store/CUserProfileSet.h"
 
+#include "platform/AppendFile.h"
 #include "text/LineReader.h"
 
 #include <algorithm>
@@ -16,14 +17,6 @@ Text AsLines(const std::vector<Text>& names) {
     for (const auto& name : names)
         lines.append(name).append("\n");
     return lines;
-}
-
-SaveResult RemoveFile(const std::filesystem::path& path) {
-    std::error_code error;
-    std::filesystem::remove(path, error);
-    if (!error)
-        return {};
-    return {Text("Não foi possível apagar o ficheiro "_w) + FromUtf8(path.filename().string())};
 }
 
 } // namespace
@@ -66,7 +59,7 @@ void CUserProfileSet::Load() {
 }
 
 CUserProfile& CUserProfileSet::Add(TextView name) {
-    auto& profile = *profiles.emplace_back(std::make_unique<CUserProfile>());
+    auto& profile = *profiles.emplace_back(std::make_unique<CUserProfile>(general));
     profile.properties.profileName = name;
     profile.properties.dictionaryFolder = folder.Path();
     profile.Load(folder.Path(ProfileFile(name, ".cfg")));

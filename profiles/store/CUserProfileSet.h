@@ -75,6 +75,7 @@ class CUserProfileSet {
     Dialogs& dialogs;
     StatusSink tell;
     std::vector<Text> told;
+    std::shared_ptr<GeneralStore> general = std::make_shared<GeneralStore>();
     std::vector<std::unique_ptr<CUserProfile>> profiles;
     int active = -1;
 };
