@@ -18,6 +18,7 @@ struct Command {
 };
 
 extern const Command kCheckCommand;
+extern const Command kCorpusCommand;
 extern const Command kKeyboardCommand;
 extern const Command kPredictCommand;
 extern const Command kVocabularyCommand;
