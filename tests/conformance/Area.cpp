@@ -2,6 +2,7 @@
 
 #include "text/LineReader.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -21,9 +22,9 @@ std::optional<Values> Area::Answer(const Text& operation, const Arguments& argum
 }
 
 void Area::OnFile(const std::filesystem::path& folder) {
-    On("file", [folder](const Arguments& a) { return Values{ReadFile(folder / ToUtf8(a.at(0))).bytes}; });
+    On("file", [folder](const Arguments& a) { return ReadFile(a.In(folder)).bytes; });
     On("file_lines_sorted", [folder](const Arguments& a) {
-        const FileBytes file = ReadFile(folder / ToUtf8(a.at(0)));
+        const FileBytes file = ReadFile(a.In(folder));
         LineReader reader(file.bytes, TextView::npos);
         Values lines;
         while (const auto line = reader.Next())
@@ -31,10 +32,6 @@ void Area::OnFile(const std::filesystem::path& folder) {
         std::sort(lines.begin(), lines.end());
         return lines;
     });
-}
-
-Values Area::Problem(const SaveResult& result) {
-    return result ? Values{} : Values{result.problem};
 }
 
 } // namespace ondrilo::conformance

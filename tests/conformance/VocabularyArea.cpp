@@ -3,27 +3,20 @@
 namespace ondrilo::conformance {
 namespace {
 
-void Append(Values& values, const std::vector<Text>& more) {
-    values.insert(values.end(), more.begin(), more.end());
-}
-
-void AppendTotals(Values& values, int count, const VocabularyTotals& totals) {
-    for (const int number : {count, totals.general, totals.generalPairs, totals.user, totals.userPairs})
-        values.push_back(Number(number));
+Values TotalsOf(int count, const VocabularyTotals& totals) {
+    return NumbersOf(count, totals.general, totals.generalPairs, totals.user, totals.userPairs);
 }
 
 Values PositionOf(const CDictionary::Position& found) {
-    return {Flag(static_cast<bool>(found.found)), Number(found.position)};
+    return NumbersOf(static_cast<bool>(found.found), found.position);
 }
 
 Values CountersOf(const DictionaryEntry& entry) {
-    return {Number(entry.Frequency()), Number(entry.UserFrequency())};
+    return NumbersOf(entry.Frequency(), entry.UserFrequency());
 }
 
 Values MaximumOf(const DictionaryEntry& entry) {
-    if (!entry)
-        return {};
-    return {Number(entry.MaxNextFrequency()), Number(entry.MaxUserNextFrequency())};
+    return entry ? NumbersOf(entry.MaxNextFrequency(), entry.MaxUserNextFrequency()) : Values{};
 }
 
 Values TextsOf(const std::vector<DictionaryEntry>& entries, std::size_t count) {
@@ -43,10 +36,6 @@ Values SuccessorsOf(const std::vector<DictionaryNextEntry>& successors) {
 void AppendIfUsed(Values& values, const DictionaryEntry& entry) {
     if (entry.UserFrequency() != 0)
         Append(values, {Text(entry.Characters()), Number(entry.UserFrequency())});
-}
-
-int CountOf(const Arguments& arguments, std::size_t which) {
-    return ToInteger(arguments.at(which));
 }
 
 } // namespace
@@ -72,18 +61,16 @@ void VocabularyArea::AddFiles() {
         Append(messages, Dictionary().ReloadSentences());
         return messages;
     });
-    On("save", [this](const Arguments&) { return Problem(Dictionary().SaveUserFiles()); });
+    On("save", [this](const Arguments&) { return Dictionary().SaveUserFiles(); });
     On("totals", [this](const Arguments&) { return Totals(); });
 }
 
 Values VocabularyArea::Totals() {
-    Values values;
     const CDictionary& dictionary = Dictionary();
-    AppendTotals(values, dictionary.WordCount(), dictionary.WordTotals());
-    AppendTotals(values, dictionary.SentenceCount(), dictionary.SentenceTotals());
-    for (const int number : {dictionary.wordClasses.Count(), dictionary.wordClasses.Total(),
-                             dictionary.wordClassPairs.Count(), dictionary.wordClassPairs.Total()})
-        values.push_back(Number(number));
+    Values values = TotalsOf(dictionary.WordCount(), dictionary.WordTotals());
+    Append(values, TotalsOf(dictionary.SentenceCount(), dictionary.SentenceTotals()));
+    Append(values, NumbersOf(dictionary.wordClasses.Count(), dictionary.wordClasses.Total(),
+                             dictionary.wordClassPairs.Count(), dictionary.wordClassPairs.Total()));
     return values;
 }
 
@@ -108,11 +95,11 @@ void VocabularyArea::AddSearches() {
         return values;
     });
     On("words_with_prefix", [this](const Arguments& a) {
-        std::vector<CDictionaryWord> found(static_cast<std::size_t>(CountOf(a, 0)));
+        std::vector<CDictionaryWord> found(a.Index(0));
         return TextsOf(found, Dictionary().WordsWithPrefix(a.at(1), found));
     });
     On("sentences_with_prefix", [this](const Arguments& a) {
-        std::vector<CDictionarySentence> found(static_cast<std::size_t>(CountOf(a, 0)));
+        std::vector<CDictionarySentence> found(a.Index(0));
         return TextsOf(found, Dictionary().SentencesWithPrefix(a.at(1), found));
     });
 }
@@ -134,40 +121,23 @@ void VocabularyArea::AddSuccessors() {
 }
 
 void VocabularyArea::AddClasses() {
-    On("class_frequency",
-       [this](const Arguments& a) { return Values{Number(Dictionary().wordClasses.Frequency(a.at(0)))}; });
-    On("class_pair_frequency", [this](const Arguments& a) {
-        return Values{Number(Dictionary().wordClassPairs.Frequency(a.at(0), a.at(1)))};
-    });
+    On("class_frequency", [this](const Arguments& a) { return Dictionary().wordClasses.Frequency(a.at(0)); });
+    On("class_pair_frequency",
+       [this](const Arguments& a) { return Dictionary().wordClassPairs.Frequency(a.at(0), a.at(1)); });
 }
 
 void VocabularyArea::AddChanges() {
-    On("add_word", [this](const Arguments& a) {
-        Dictionary().AddUserWord(a.at(0), CountOf(a, 1));
-        return Values{};
-    });
-    On("add_word_pair", [this](const Arguments& a) {
-        Dictionary().AddUserWordPair(a.at(0), a.at(1), CountOf(a, 2));
-        return Values{};
-    });
-    On("add_sentence", [this](const Arguments& a) {
-        Dictionary().AddUserSentence(a.at(0), CountOf(a, 1));
-        return Values{};
-    });
-    On("add_sentence_pair", [this](const Arguments& a) {
-        Dictionary().AddUserSentencePair(a.at(0), a.at(1), CountOf(a, 2));
-        return Values{};
-    });
-    On("set_word", [this](const Arguments& a) {
-        return Values{Flag(Dictionary().SetUserWordFrequency(a.at(0), CountOf(a, 1)))};
-    });
-    On("set_sentence", [this](const Arguments& a) {
-        return Values{Flag(Dictionary().SetUserSentenceFrequency(a.at(0), CountOf(a, 1)))};
-    });
-    On("remove_rarest_words", [this](const Arguments&) {
-        Dictionary().RemoveRarestUserWords();
-        return Values{};
-    });
+    On("add_word", [this](const Arguments& a) { Dictionary().AddUserWord(a.at(0), a.Integer(1)); });
+    On("add_word_pair",
+       [this](const Arguments& a) { Dictionary().AddUserWordPair(a.at(0), a.at(1), a.Integer(2)); });
+    On("add_sentence", [this](const Arguments& a) { Dictionary().AddUserSentence(a.at(0), a.Integer(1)); });
+    On("add_sentence_pair",
+       [this](const Arguments& a) { Dictionary().AddUserSentencePair(a.at(0), a.at(1), a.Integer(2)); });
+    On("set_word",
+       [this](const Arguments& a) { return Dictionary().SetUserWordFrequency(a.at(0), a.Integer(1)); });
+    On("set_sentence",
+       [this](const Arguments& a) { return Dictionary().SetUserSentenceFrequency(a.at(0), a.Integer(1)); });
+    On("remove_rarest_words", [this](const Arguments&) { Dictionary().RemoveRarestUserWords(); });
     On("user_words", [this](const Arguments&) {
         Values values;
         for (int position = Dictionary().FirstWord(); position != -1;)
@@ -186,26 +156,16 @@ void VocabularyArea::AddChanges() {
         Dictionary().LearnWordPairsFromFile(path);
         Dictionary().LearnSentencesFromFile(path);
         Dictionary().LearnSentencePairsFromFile(path);
-        return Values{};
     });
 }
 
 void VocabularyArea::AddAbbreviations() {
     On("abbreviation",
-       [this](const Arguments& a) { return Values{Dictionary().abbreviations.Find(a.at(0)).value_or("")}; });
-    On("abbreviation_set", [this](const Arguments& a) {
-        Dictionary().abbreviations.Set(a.at(0), a.at(1));
-        return Values{};
-    });
-    On("abbreviation_remove", [this](const Arguments& a) {
-        Dictionary().abbreviations.Remove(a.at(0));
-        return Values{};
-    });
-    On("abbreviation_save", [this](const Arguments&) { return Problem(Dictionary().abbreviations.Save()); });
-    On("abbreviation_reload", [this](const Arguments&) {
-        Dictionary().abbreviations.Reload();
-        return Values{};
-    });
+       [this](const Arguments& a) { return Dictionary().abbreviations.Find(a.at(0)).value_or(""); });
+    On("abbreviation_set", [this](const Arguments& a) { Dictionary().abbreviations.Set(a.at(0), a.at(1)); });
+    On("abbreviation_remove", [this](const Arguments& a) { Dictionary().abbreviations.Remove(a.at(0)); });
+    On("abbreviation_save", [this](const Arguments&) { return Dictionary().abbreviations.Save(); });
+    On("abbreviation_reload", [this](const Arguments&) { Dictionary().abbreviations.Reload(); });
     On("abbreviations_sorted", [this](const Arguments&) {
         auto entries = Dictionary().abbreviations.Entries();
         std::sort(entries.begin(), entries.end());

@@ -26,7 +26,8 @@ class VocabularyArea : public Area {
     void AddPredictions();
     void AddFilters();
     [[nodiscard]] Values Totals();
-    void SetCoefficients(const Arguments& weights);
+    [[nodiscard]] Values BestWords(std::size_t most);
+    [[nodiscard]] Values BestSentences(std::size_t most);
 
     DataFolder folder;
     CDictionary ownDictionary;
