@@ -9,6 +9,23 @@ namespace {
 /// Stands for the start of a sentence, or of a text, in the pairs.
 constexpr TextView kStart = "___";
 
+using Kind = Lesson::Kind;
+
+/// An entry and its pair with the one before. Without one before there is a break: then the pairs are with
+/// `last`, which stood before the break, and with the start.
+Lessons LessonsOf(Kind entry, Kind pair, const Text& text, const Text& before, const Text& last) {
+    Lessons lessons{{entry, text}};
+    if (!before.empty()) {
+        lessons.push_back({pair, before, text});
+        return lessons;
+    }
+    if (!last.empty())
+        lessons.push_back({pair, last, text});
+    lessons.push_back({entry, Text(kStart)});
+    lessons.push_back({pair, Text(kStart), text});
+    return lessons;
+}
+
 } // namespace
 
 LearningController::LearningController(CUserProfileSet& profiles, const Targets& targets)
@@ -19,27 +36,14 @@ bool LearningController::IsOn() const {
     return targets.Current() && profiles.Active().properties.IsOn(option::ADAPTACAO_UTILIZADOR);
 }
 
-CDictionary& LearningController::Dictionary() {
-    return profiles.Active().dictionary;
-}
-
 void LearningController::LearnWord() {
     if (!IsOn())
         return;
     const auto word = MakeLower(targets.Current()->GetLabelledPreviousWord());
     if (word.empty())
         return;
-    auto& dictionary = Dictionary();
-    dictionary.AddUserWord(word);
     const auto before = MakeLower(targets.Current()->GetLabelledSecondPreviousWord());
-    if (!before.empty()) {
-        dictionary.AddUserWordPair(before, word);
-    } else {
-        if (!previousLearnedWord.empty())
-            dictionary.AddUserWordPair(previousLearnedWord, word);
-        dictionary.AddUserWord(kStart);
-        dictionary.AddUserWordPair(kStart, word);
-    }
+    profiles.Learn(LessonsOf(Kind::Word, Kind::WordPair, word, before, previousLearnedWord));
     previousLearnedWord = word;
 }
 
@@ -49,17 +53,8 @@ void LearningController::LearnSentence() {
     const auto sentence = targets.Current()->GetLabelledPreviousSentence();
     if (sentence.empty())
         return;
-    auto& dictionary = Dictionary();
-    dictionary.AddUserSentence(sentence);
     const auto before = targets.Current()->GetLabelledSecondPreviousSentence();
-    if (!before.empty()) {
-        dictionary.AddUserSentencePair(before, sentence);
-    } else {
-        if (!previousLearnedSentence.empty())
-            dictionary.AddUserSentencePair(previousLearnedSentence, sentence);
-        dictionary.AddUserSentence(kStart);
-        dictionary.AddUserSentencePair(kStart, sentence);
-    }
+    profiles.Learn(LessonsOf(Kind::Sentence, Kind::SentencePair, sentence, before, previousLearnedSentence));
     previousLearnedSentence = sentence;
 }
 
@@ -67,18 +62,11 @@ void LearningController::LearnCurrentSentence() {
     if (!IsOn())
         return;
     const Text labelled = targets.Current()->GetLabelledSentence();
-    const auto sentence = Trim(labelled);
+    const Text sentence(Trim(labelled));
     if (sentence.empty())
         return;
-    auto& dictionary = Dictionary();
-    dictionary.AddUserSentence(sentence);
     const auto before = targets.Current()->GetLabelledPreviousSentence();
-    if (!before.empty()) {
-        dictionary.AddUserSentencePair(before, sentence);
-        return;
-    }
-    dictionary.AddUserSentence(kStart);
-    dictionary.AddUserSentencePair(kStart, sentence);
+    profiles.Learn(LessonsOf(Kind::Sentence, Kind::SentencePair, sentence, before, {}));
 }
 
 void LearningController::LearnFromKeyOutput(TextView text) {

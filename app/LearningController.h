@@ -23,7 +23,6 @@ class LearningController {
 
   private:
     [[nodiscard]] bool IsOn() const;
-    [[nodiscard]] CDictionary& Dictionary();
 
     CUserProfileSet& profiles;
     const Targets& targets;

@@ -15,7 +15,7 @@ constexpr Milliseconds kAgentMove{1000};
 
 } // namespace
 
-SessionClock::SessionClock(const Environment& environment, const CUserProfileSet& profiles,
+SessionClock::SessionClock(const Environment& environment, CUserProfileSet& profiles,
                            const CSystemOptions& systemOptions, TargetController& targetController,
                            PredictionCycle& cycle, Countdowns& countdowns, WritingClock& writingClock,
                            WindowPlacement& placement, CaretFollower& caretFollower,
@@ -52,6 +52,8 @@ void SessionClock::OnTimer() {
     if (countdowns.prediction.Tick(Options().Get(option::TEMPO_DE_PREDICAO))) {
         countdowns.prediction.Stop();
         cycle.RunPrediction();
+        // The person rests, and reads: now the disk may take its time.
+        profiles.FlushLearned();
     }
     if (systemOptions.IsOn(system_option::ADAPTACAO_CONTEXTO) && countdowns.context.Tick(kContextPeriod) &&
         countdowns.idle.IsStopped())
@@ -85,6 +87,7 @@ void SessionClock::ReadHints() {
 
 void SessionClock::PauseWriting() {
     countdowns.idle.Stop();
+    profiles.FlushLearned();
     writingClock.Pause(Options().Get(option::TEMPO_INACTIVIDADE_COMUNICACAO));
 }
 

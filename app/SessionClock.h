@@ -16,7 +16,7 @@ class SessionClock {
   public:
     using ChangeProfile = std::function<void(TextView)>;
 
-    SessionClock(const Environment& environment, const CUserProfileSet& profiles,
+    SessionClock(const Environment& environment, CUserProfileSet& profiles,
                  const CSystemOptions& systemOptions, TargetController& targetController,
                  PredictionCycle& cycle, Countdowns& countdowns, WritingClock& writingClock,
                  WindowPlacement& placement, CaretFollower& caretFollower, const SessionServices& services,
@@ -38,7 +38,7 @@ class SessionClock {
     MessageBoxes& boxes;
     const Desktop& desktop;
     FrameWindow& frame;
-    const CUserProfileSet& profiles;
+    CUserProfileSet& profiles;
     const CSystemOptions& systemOptions;
     TargetController& targetController;
     PredictionCycle& cycle;

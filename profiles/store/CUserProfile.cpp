@@ -24,15 +24,28 @@ SaveResult CUserProfile::Save() {
 }
 
 std::vector<Text> CUserProfile::LoadDictionary() {
-    return dictionary.LoadProfileDictionaries(DataFolder(properties.dictionaryFolder), properties.profileName,
-                                              properties.IsOn(option::ADAPTACAO_UTILIZADOR));
+    const DataFolder folder(properties.dictionaryFolder);
+    auto messages = dictionary.LoadProfileDictionaries(folder, properties.profileName,
+                                                       properties.IsOn(option::ADAPTACAO_UTILIZADOR));
+    journal.Open(folder, properties.profileName, dictionary);
+    return messages;
 }
 
 SaveResult CUserProfile::ReleaseDictionary() {
     auto abbreviations = dictionary.abbreviations.Save();
     auto vocabulary = dictionary.SaveUserFiles();
     dictionary.Clear();
-    return vocabulary ? abbreviations : vocabulary;
+    if (!vocabulary) {
+        journal.Close();
+        return vocabulary;
+    }
+    auto removed = journal.Remove();
+    return abbreviations ? removed : abbreviations;
+}
+
+SaveResult CUserProfile::Learn(std::span<const Lesson> lessons) {
+    ondrilo::Learn(dictionary, lessons);
+    return journal.Append(lessons);
 }
 
 } // namespace ondrilo

@@ -2,6 +2,7 @@
 
 #include "platform/FileStore.h"
 #include "prediction/CDictionary.h"
+#include "prediction/LearningJournal.h"
 #include "profiles/CAccessOptions.h"
 #include "profiles/CUserProfileProperties.h"
 
@@ -44,12 +45,19 @@ class CUserProfile {
 
     /// True if the dictionary stays in memory for the whole run.
     [[nodiscard]] bool KeepsDictionary() const { return properties.IsOn(option::MANTER_DICIONARIO_MEMORIA); }
-    /// Reads the vocabulary; what comes back are the messages to show, in order.
+    /// Reads the vocabulary, and what was learned before a crash; what comes back are the messages to show,
+    /// in order.
     [[nodiscard]] std::vector<Text> LoadDictionary();
     /// Saves the vocabulary and frees it; the first problem, if any.
     SaveResult ReleaseDictionary();
 
+    /// Learns what the person wrote so that a crash does not cost it; a problem is one of the journal's.
+    SaveResult Learn(std::span<const Lesson> lessons);
+    /// Waits until the disk has all that was learned.
+    SaveResult FlushLearned() { return journal.Flush(); }
+
   private:
+    LearningJournal journal;
     bool changed = false;
 };
 

@@ -85,7 +85,9 @@ int CUserProfileSet::Open(TextView name) {
     }
     if (active >= 0) {
         SaveActive();
-        if (!Active().KeepsDictionary())
+        if (Active().KeepsDictionary())
+            FlushLearned();
+        else
             ReleaseDictionary(Active());
     }
     active = index;
@@ -143,7 +145,8 @@ void CUserProfileSet::CreateProfile(TextView name) {
         Tell(ReplaceFile(folder.Path(ProfileFile(name, extension)), {}));
     if (const auto base = ReadFile(GetBaseProfilePath()); base.CouldOpen())
         Tell(ReplaceFile(folder.Path(ProfileFile(name, ".cfg")), base.bytes));
-    Tell(RemoveFile(folder.Path(ProfileFile(name, ".acs"))));
+    for (const auto extension : {".acs", ".jrn"})
+        Tell(RemoveFile(folder.Path(ProfileFile(name, extension))));
     Add(name);
     Open(name);
 }
@@ -197,6 +200,14 @@ bool CUserProfileSet::ProfileExists(TextView name) const {
 
 void CUserProfileSet::SaveActive() {
     Tell(Active().Save());
+}
+
+void CUserProfileSet::Learn(std::span<const Lesson> lessons) {
+    Tell(Active().Learn(lessons));
+}
+
+void CUserProfileSet::FlushLearned() {
+    Tell(Active().FlushLearned());
 }
 
 void CUserProfileSet::LoadDictionary(CUserProfile& profile) {

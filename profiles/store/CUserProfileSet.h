@@ -53,6 +53,10 @@ class CUserProfileSet {
     [[nodiscard]] Text ChooseProfile();
     /// Saves the options of the active profile.
     void SaveActive();
+    /// The active profile learns what its person wrote.
+    void Learn(std::span<const Lesson> lessons);
+    /// For a moment in which nobody waits: has what was learned written to the disk.
+    void FlushLearned();
 
     /// As the list on disk stands: "generico" first.
     [[nodiscard]] std::vector<Text> GetProfileNames() const;

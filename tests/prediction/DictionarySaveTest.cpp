@@ -1,31 +1,12 @@
 #include "tests/prediction/DictionaryFolder.h"
+#include "tests/support/FullDisk.h"
 
 #include <gmock/gmock.h>
-
-#include <csignal>
-#include <sys/resource.h>
 
 namespace ondrilo {
 namespace {
 
 class DictionarySave : public DictionaryFolder {};
-
-/// A disk with room for `bytes` more in any file.
-class FullDisk {
-  public:
-    explicit FullDisk(rlim_t bytes) {
-        (void)std::signal(SIGXFSZ, SIG_IGN);
-        (void)::getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit limit{bytes, before.rlim_max};
-        (void)::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-    ~FullDisk() { (void)::setrlimit(RLIMIT_FSIZE, &before); }
-
-  private:
-    rlimit before{};
-};
 
 TEST_F(DictionarySave, WritesUserCountersInOrderWithBarsForBlanks) {
     Write("geral.pal", "bom|dia 12\ncasa 4\n");
@@ -66,25 +47,37 @@ TEST_F(DictionarySave, UnchangedFilesAreLeftAlone) {
     EXPECT_EQ(Read("ana.pal"), "a 1\nb\n");
 }
 
-TEST_F(DictionarySave, AFullDiskKeepsTheOldFileAndTheChanges) {
-    Write("ana.pal", "a 1\n");
-    Write("ana.abr", "bd bom dia\n");
+TEST_F(DictionarySave, AFullDiskKeepsTheOldFilesAndTheChanges) {
+    const std::vector<std::pair<std::string, Text>> old{{"ana.pal", "a 1\nb 1\n"},
+                                                        {"ana.par", "a b 1\n"},
+                                                        {"ana.frs", "a. 1\nb. 1\n"},
+                                                        {"ana.paf", "a. b. 1\n"},
+                                                        {"ana.abr", "bd bom dia\n"}};
+    for (const auto& [name, bytes] : old)
+        Write(name, bytes);
     (void)Load();
     dictionary.AddUserWord("b");
+    dictionary.AddUserWordPair("a", "b");
+    dictionary.AddUserSentence("b.");
+    dictionary.AddUserSentencePair("a.", "b.");
     dictionary.abbreviations.Set("obg", "obrigado");
     {
         const FullDisk disk(3);
-        EXPECT_FALSE(dictionary.SaveUserFiles().problem.empty());
-        EXPECT_FALSE(dictionary.abbreviations.Save());
+        for (const SaveResult& saved :
+             {dictionary.SaveUserWordPairs(), dictionary.SaveUserWords(), dictionary.SaveUserSentencePairs(),
+              dictionary.SaveUserSentences(), dictionary.abbreviations.Save()})
+            EXPECT_FALSE(saved);
     }
-    EXPECT_EQ(Read("ana.pal"), "a 1\n");
-    EXPECT_EQ(Read("ana.abr"), "bd bom dia\n");
-    EXPECT_TRUE(dictionary.UserWordsChanged());
-    EXPECT_TRUE(dictionary.abbreviations.Changed());
+    for (const auto& [name, bytes] : old)
+        EXPECT_EQ(Read(name), bytes);
 
     EXPECT_TRUE(dictionary.SaveUserFiles());
-    EXPECT_EQ(Read("ana.pal"), "a 1\nb 1\n");
     EXPECT_TRUE(dictionary.abbreviations.Save());
+    EXPECT_EQ(Read("ana.pal"), "a 1\nb 2\n");
+    EXPECT_EQ(Read("ana.par"), "a b 2\n");
+    EXPECT_EQ(Read("ana.frs"), "a. 1\nb. 2\n");
+    EXPECT_EQ(Read("ana.paf"), "a. b. 2\n");
+    EXPECT_NE(Read("ana.abr").find("obg obrigado\n"), Text::npos);
 }
 
 TEST_F(DictionarySave, AClearedDictionaryEmptiesNoFile) {
