@@ -5,7 +5,10 @@
 #include <QApplication>
 #include <QFontMetrics>
 #include <QPainter>
+#include <QScreen>
 #include <QWindow>
+
+#include <algorithm>
 
 namespace ondrilo {
 
@@ -52,7 +55,17 @@ void CTextWindow::Show() {
 void CTextWindow::Fit() {
     const QFontMetrics measures(font());
     const QSize size(measures.horizontalAdvance(text) + 2 * style.margin, measures.height());
-    setGeometry({QPoint(lowerLeft.x, lowerLeft.y - size.height()), size});
+    setGeometry(OnScreen({QPoint(lowerLeft.x, lowerLeft.y - size.height()), size}));
+}
+
+/// Above a caret in the uppermost line of the screen, or after one at its right edge, nobody would see the
+/// text.
+QRect CTextWindow::OnScreen(QRect place) const {
+    const auto* found = QGuiApplication::screenAt(ToQPoint(lowerLeft));
+    const QRect area = (found ? found : screen())->geometry();
+    place.moveLeft(std::max(area.left(), std::min(place.left(), area.right() + 1 - place.width())));
+    place.moveTop(std::max(area.top(), std::min(place.top(), area.bottom() + 1 - place.height())));
+    return place;
 }
 
 void CTextWindow::paintEvent(QPaintEvent*) {

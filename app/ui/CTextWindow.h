@@ -26,6 +26,7 @@ class CTextWindow : public QWidget, public TextWindow {
 
   private:
     void Fit();
+    [[nodiscard]] QRect OnScreen(QRect place) const;
 
     TextWindowStyle style;
     QString text;
