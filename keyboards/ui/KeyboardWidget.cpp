@@ -53,9 +53,10 @@ void KeyboardWidget::LayoutChanged() {
 }
 
 /// The keys move with the keyboard and with its window, which may follow the caret or come back from the task
-/// bar.
+/// bar. After a dialog the pointer may stand on a key because it chose something there.
 bool KeyboardWidget::eventFilter(QObject* watched, QEvent* event) {
-    constexpr QEvent::Type moves[] = {QEvent::Move, QEvent::Show, QEvent::WindowStateChange};
+    constexpr QEvent::Type moves[] = {QEvent::Move, QEvent::Show, QEvent::WindowStateChange,
+                                      QEvent::WindowUnblocked};
     if (std::find(std::begin(moves), std::end(moves), event->type()) != std::end(moves))
         TellWhereThePointerRests();
     return QWidget::eventFilter(watched, event);
