@@ -4,6 +4,7 @@
 #include "app/ui/ViewWidget.h"
 #include "platform/Keyboard.h"
 #include "platform/MessageQueue.h"
+#include "platform/qt/KeyRepeats.h"
 
 #include <QElapsedTimer>
 #include <QMainWindow>
@@ -68,6 +69,7 @@ class CMainFrame : public QMainWindow, public FrameWindow {
     MessageQueue& queue;
     Desktop& desktop;
     const KeyOutput& layout;
+    const KeyRepeats keyRepeats;
     FrameWindowListener* listener = nullptr;
     ViewWidget* view;
     bool startsMinimized = false;
