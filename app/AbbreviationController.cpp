@@ -18,30 +18,31 @@ Text AbbreviationController::GetExpansion() const {
     return word.empty() ? Text() : profiles.Active().dictionary.abbreviations.Find(word).value_or("");
 }
 
-void AbbreviationController::Press(const ActionOrigin& origin) {
+void AbbreviationController::Press(const ActionOrigin& origin, std::optional<COnScreenKeyIdentifier> key) {
+    const Source source{origin, key};
     const auto expansion = GetExpansion();
     if (expansion.empty()) {
-        Log(origin, "ABBREVIATION_NOT_FOUND", "");
+        Log(source, "ABBREVIATION_NOT_FOUND", "");
         return;
     }
     bool used = false;
     if (expansion != state.stages.lastSpoken && Options().IsOn(option::OUVIR_ANTES_COMPLETAR)) {
-        Log(origin, "SYNTHESIZE_ABBREVIATION_EXPANSION_BEFORE_EXPANSION", expansion);
+        Log(source, "SYNTHESIZE_ABBREVIATION_EXPANSION_BEFORE_EXPANSION", expansion);
         speech.SpeakText(expansion);
         state.stages.lastSpoken = expansion;
         used = true;
     }
     if (expansion != state.stages.lastShown && Options().IsOn(option::VER_ANTES_COMPLETAR)) {
-        Log(origin, "SHOW_ABBREVIATION_EXPANSION_BEFORE_EXPANSION", expansion);
+        Log(source, "SHOW_ABBREVIATION_EXPANSION_BEFORE_EXPANSION", expansion);
         preview.ShowPreview(targets.Current()->AdaptWordCase(expansion));
         state.stages.lastShown = expansion;
         return;
     }
     if (used)
         return;
-    Log(origin, "ABBREVIATION_SELECTION", expansion);
+    Log(source, "ABBREVIATION_SELECTION", expansion);
     if (Options().IsOn(option::OUVIR_DEPOIS_COMPLETAR)) {
-        Log(origin, "SYNTHESIZE_ABBREVIATION_EXPANSION_AFTER_EXPANSION", expansion);
+        Log(source, "SYNTHESIZE_ABBREVIATION_EXPANSION_AFTER_EXPANSION", expansion);
         speech.SpeakText(expansion);
     }
     ExpandAbbreviation();
@@ -64,7 +65,7 @@ void AbbreviationController::ExpandAbbreviation() {
     cycle.RunPrediction();
 }
 
-void AbbreviationController::Log(const ActionOrigin& origin, TextView type, TextView expansion) {
+void AbbreviationController::Log(const Source& source, TextView type, TextView expansion) {
     if (!events.IsOpen())
         return;
     auto text = Text(type);
@@ -72,7 +73,7 @@ void AbbreviationController::Log(const ActionOrigin& origin, TextView type, Text
         text += "_" + targets.Current()->GetCurrentWordLeft();
     if (!expansion.empty())
         text.append("_").append(expansion);
-    events.ActionWithText(origin, "", text);
+    events.ActionWithText(source.origin, "", text, source.key);
 }
 
 } // namespace ondrilo

@@ -17,14 +17,19 @@ class AbbreviationController {
                            SpeechController& speech, PreviewController& preview, CKeyboard& keyboardSimulator,
                            EventWriter& events, SessionState& state, const SessionServices& services);
 
-    /// The expansion key went down.
-    void Press(const ActionOrigin& origin);
+    /// The expansion key went down, or `key`, which stands for it on the screen.
+    void Press(const ActionOrigin& origin, std::optional<COnScreenKeyIdentifier> key = {});
     /// The full text of the word being written; empty if it is no abbreviation.
     [[nodiscard]] Text GetExpansion() const;
 
   private:
     void ExpandAbbreviation();
-    void Log(const ActionOrigin& origin, TextView type, TextView expansion);
+    /// Where a press came from.
+    struct Source {
+        ActionOrigin origin;
+        std::optional<COnScreenKeyIdentifier> key;
+    };
+    void Log(const Source& source, TextView type, TextView expansion);
     [[nodiscard]] const CUserProfileProperties& Options() const { return profiles.Active().properties; }
 
     const CUserProfileSet& profiles;

@@ -62,7 +62,7 @@ void CompletionController::WriteWord(const Text& word, const Origin& origin) {
     PlayMagic();
     const auto written = targets.Current()->GetCurrentWordLeft();
     Expect(Rest(word, written));
-    CountCompletion(word, origin, written.size());
+    CountCompletion(Completion::Kind::Word, origin, written.size());
     targets.Current()->WriteWord(word);
 }
 
@@ -71,7 +71,9 @@ void CompletionController::WriteSentence(const Text& sentence, const Origin& ori
     const auto left = targets.Current()->GetWrittenSentence();
     const auto written = TrimLeft(left);
     Expect(byRemainder ? targets.Current()->GetRemainder(sentence, written) : Text(Rest(sentence, written)));
-    CountCompletion(sentence, origin, written.size());
+    // A single word stands on sentence keys too, and counts as neither.
+    if (const auto kind = KindOf(sentence); kind && *kind != Completion::Kind::Word)
+        CountCompletion(*kind, origin, written.size());
     targets.Current()->WriteSentence(sentence);
 }
 
@@ -142,10 +144,10 @@ void CompletionController::Expect(TextView typed) {
     state.pendingSimulatedKeys = keyboardSimulator.CountKeys(typed) + 1; // and the blank
 }
 
-void CompletionController::CountCompletion(TextView text, const Origin& origin, std::size_t prefixLength) {
-    const auto kind = KindOf(text);
-    if (services.log.IsOpen() && kind)
-        services.metrics.Completed({*kind, origin.source, origin.position, static_cast<int>(prefixLength)});
+void CompletionController::CountCompletion(Completion::Kind kind, const Origin& origin,
+                                           std::size_t prefixLength) {
+    if (services.log.IsOpen())
+        services.metrics.Completed({kind, origin.source, origin.position, static_cast<int>(prefixLength)});
 }
 
 void CompletionController::PlayMagic() {

@@ -34,7 +34,7 @@ class CompletionController {
     void RemoveWhatPictogramReplaces(TextView description);
     [[nodiscard]] Origin OriginOf(COnScreenKeyIdentifier key) const;
     void Expect(TextView typed);
-    void CountCompletion(TextView text, const Origin& origin, std::size_t prefixLength);
+    void CountCompletion(Completion::Kind kind, const Origin& origin, std::size_t prefixLength);
     void PlayMagic();
 
     const CUserProfileSet& profiles;

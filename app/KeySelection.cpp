@@ -36,7 +36,7 @@ void KeySelection::Select(COnScreenKeyIdentifier key, const ActionOrigin& origin
         break;
     }
     if (IsExpansionKey(output))
-        abbreviations.Press(origin);
+        abbreviations.Press(origin, key);
     else if (kind == OutputKind::Pictogram)
         selections.SelectPictogramKey(key, origin);
     else

@@ -163,6 +163,26 @@ TEST_F(RunningSystem, ACompletionTellsWhichKeysAreTheSystems) {
               (Completion{Completion::Kind::Word, Completion::Source::TextList, 0, 2}));
 }
 
+TEST_F(RunningSystem, ASingleWordOnASentenceKeyCountsAsNoWordOfTheWordList) {
+    folder.Write("geral.frs", "___ 1\nobrigado 3\n");
+    folder.Write("geral.paf", "___ obrigado 3\n");
+    StartWriting("REGISTAR_EVENTOS 1\n");
+    Click(kSentenceKey);
+    EXPECT_EQ(Written(), "obrigado ");
+    EXPECT_TRUE(services.metrics.completions.empty());
+}
+
+TEST_F(RunningSystem, AnAbbreviationExpandedByAKeyOfTheScreenIsLoggedWithThatKey) {
+    folder.Write("generico.abr", "bd bom dia\n");
+    StartWriting("REGISTAR_EVENTOS 1\nTECLA_EXPANSAO_ABREVIATURAS Enter\n");
+    Type("bd");
+    services.log.written.clear();
+    Click("Enter");
+    EXPECT_EQ(Written(), "bom dia ");
+    EXPECT_EQ(services.log.written.at(0),
+              (LogEvent{"", "LEFT_MOUSE_DOWN_KEY", "ABBREVIATION_SELECTION_bd_bom_dia", KeyOf("Enter")}));
+}
+
 TEST_F(RunningSystem, AnAbbreviationIsReplacedByItsExpansion) {
     folder.Write("generico.abr", "bd bom dia\n");
     StartWriting("OUVIR_ANTES_COMPLETAR 1\nVER_ANTES_COMPLETAR 1\n");
