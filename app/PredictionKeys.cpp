@@ -1,9 +1,16 @@
 #include "app/PredictionKeys.h"
 
+#include <algorithm>
+#include <limits>
+
 namespace ondrilo {
 namespace {
 
 constexpr int kHotKeyRoom = 3; // characters for a hot key's mark before the text
+
+int WithHotKeyRoom(int letters) {
+    return std::min(letters, std::numeric_limits<int>::max() - kHotKeyRoom) + kHotKeyRoom;
+}
 
 } // namespace
 
@@ -25,9 +32,9 @@ void PredictionKeys::BindPredictionKeys() {
     lists.imageSentences.Bind(keyboard.KeysOfType(KeyType::ImageSentencePrediction), sentenceLimit);
     lists.imageSentenceKeyTexts.assign(lists.imageSentences.keys.size(), "");
     for (const auto& key : lists.words.keys)
-        keyboard.SetLetters(key, profile.Get(option::NUMERO_MAXIMO_LETRAS_PALAVRAS_PREDITAS) + kHotKeyRoom);
+        keyboard.SetLetters(key, WithHotKeyRoom(profile.Get(option::NUMERO_MAXIMO_LETRAS_PALAVRAS_PREDITAS)));
     for (const auto& key : lists.sentences.keys)
-        keyboard.SetLetters(key, profile.Get(option::NUMERO_MAXIMO_LETRAS_FRASES_PREDITAS) + kHotKeyRoom);
+        keyboard.SetLetters(key, WithHotKeyRoom(profile.Get(option::NUMERO_MAXIMO_LETRAS_FRASES_PREDITAS)));
 }
 
 void PredictionKeys::Unbind() {

@@ -1,7 +1,12 @@
 #include "app/WindowPlacement.h"
 
+#include <algorithm>
+
 namespace ondrilo {
 namespace {
+
+/// No desktop reaches further, in pixels.
+constexpr int kFarthest = 32'767;
 
 /// A picture anywhere on the machine, or one named relative to the data folder.
 std::filesystem::path PictureFile(const DataFolder& folder, const Text& name) {
@@ -91,8 +96,12 @@ void WindowPlacement::PlaceKeyboard(Point corner) {
         keyboardWindow->MoveTo(corner);
 }
 
+int WindowPlacement::Coordinate(IntegerOption option) const {
+    return std::clamp(Options().Get(option), -kFarthest, kFarthest);
+}
+
 int WindowPlacement::EditorHeight() const {
-    return targets.Internal() ? Options().Get(option::ALTURA_EDITOR_MENSAGENS) : 0;
+    return targets.Internal() ? std::clamp(Options().Get(option::ALTURA_EDITOR_MENSAGENS), 0, kFarthest) : 0;
 }
 
 void WindowPlacement::RefreshTitle() {
@@ -123,8 +132,8 @@ void WindowPlacement::SetUpWindow() {
         frame.Show(WindowState::Minimized);
     } else {
         frame.Show(WindowState::Normal);
-        frame.MoveTo({Options().Get(option::POSICAO_INICIAL_JANELA_X),
-                      Options().Get(option::POSICAO_INICIAL_JANELA_Y)});
+        frame.MoveTo(
+            {Coordinate(option::POSICAO_INICIAL_JANELA_X), Coordinate(option::POSICAO_INICIAL_JANELA_Y)});
     }
     WindowBackground background;
     if (const auto& picture = Options().Get(option::IMAGEM_FUNDO); !picture.empty())

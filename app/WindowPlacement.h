@@ -32,6 +32,7 @@ class WindowPlacement {
     void PlaceEditor(int width, Point corner);
     void PlaceKeyboard(Point corner);
     [[nodiscard]] int EditorHeight() const;
+    [[nodiscard]] int Coordinate(IntegerOption option) const;
     [[nodiscard]] TextView TitleMark() const;
     [[nodiscard]] const CUserProfileProperties& Options() const { return profiles.Active().properties; }
 

@@ -104,7 +104,10 @@ TEST_F(RunningSystem, AWindowThatIsToStartMinimizedStaysSo) {
 
 TEST_F(RunningSystem, HugeNumbersInAProfileHarmNothing) {
     StartWriting("TECLAS_COMPLETAR 2147483647\nTEMPO_INACTIVIDADE_COMUNICACAO 2147483647\n"
-                 "TEMPO_DE_PREDICAO -2147483648\n");
+                 "TEMPO_DE_PREDICAO -2147483648\nALTURA_EDITOR_MENSAGENS 2147483647\n"
+                 "AGENTE_ACTIVO 1\nPOSICAO_INICIAL_JANELA_X -2147483648\n"
+                 "NUMERO_MAXIMO_LETRAS_PALAVRAS_PREDITAS 2147483647\n"
+                 "NUMERO_MAXIMO_LETRAS_FRASES_PREDITAS 2147483647\n");
     Type("tu");
     Pause();
     EXPECT_EQ(Labels(0)[0], ": olá"_w);
