@@ -66,6 +66,7 @@ const std::map<std::string, AreaMaker>& Areas() {
         {"scanning", kScanningArea},
         {"selection", kSelectionArea},
         {"text", kTextArea},
+        {"word_simulator", kWordSimulatorArea},
     };
     return areas;
 }
