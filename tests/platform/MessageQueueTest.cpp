@@ -22,23 +22,14 @@ class MessageQueueTest : public testing::Test {
     std::vector<int> handled;
 };
 
-TEST_F(MessageQueueTest, WhatAHandlerPostsComesAfterWhatWasThereAndInTheSameDrain) {
+TEST_F(MessageQueueTest, ADialogsLoopInsideAHandlerGoesOnWithTheNextEventAndWithWhatItPosts) {
     Post(1);
     Post(2);
     queue.Drain([this](const MessageEvent& event) {
-        handled.push_back(event.first);
-        if (event.first == 1)
+        if (event.first == 1) {
             Post(3);
-    });
-    EXPECT_THAT(handled, ElementsAre(1, 2, 3));
-}
-
-TEST_F(MessageQueueTest, ADialogsLoopInsideAHandlerGoesOnWithTheNextEvent) {
-    for (const int number : {1, 2, 3})
-        Post(number);
-    queue.Drain([this](const MessageEvent& event) {
-        if (event.first == 1)
             Drain();
+        }
         handled.push_back(event.first);
     });
     EXPECT_THAT(handled, ElementsAre(2, 3, 1)) << "each once, and the outer handler ends last";
@@ -75,7 +66,6 @@ TEST_F(MessageQueueTest, AHoldBegunByAHandlerStopsTheDrainAndClearThrowsAwayWhat
     holds.clear();
     Drain();
     EXPECT_THAT(handled, ElementsAre(1));
-    EXPECT_FALSE(queue.IsHeld());
 }
 
 TEST_F(MessageQueueTest, PostingNeverRunsAHandlerAndAWakeMayPostItself) {
@@ -92,22 +82,17 @@ TEST_F(MessageQueueTest, PostingNeverRunsAHandlerAndAWakeMayPostItself) {
 
 TEST_F(MessageQueueTest, ThreadsThatPostLoseNothingAndKeepTheirOwnOrder) {
     constexpr int kEach = 2000;
-    std::vector<std::thread> threads;
-    threads.reserve(3);
-    for (int thread = 0; thread < 3; ++thread)
-        threads.emplace_back([this, thread] {
-            for (int i = 0; i < kEach; ++i)
-                queue.Post(Message::UM_KEY_DOWN, thread, i);
-        });
-    std::vector<int> next(3, 0);
-    int count = 0;
-    while (count < 3 * kEach)
-        queue.Drain([&](const MessageEvent& event) {
-            EXPECT_EQ(event.second, next.at(static_cast<std::size_t>(event.first))++);
-            ++count;
-        });
-    for (auto& thread : threads)
-        thread.join();
+    const auto post = [this](int thread) {
+        for (int i = 0; i < kEach; ++i)
+            queue.Post(Message::UM_KEY_DOWN, thread, i);
+    };
+    std::thread first(post, 0);
+    std::thread second(post, 1);
+    int next[2] = {};
+    while (next[0] + next[1] < 2 * kEach)
+        queue.Drain([&](const MessageEvent& event) { EXPECT_EQ(event.second, next[event.first]++); });
+    first.join();
+    second.join();
 }
 
 } // namespace

@@ -5,48 +5,33 @@
 namespace ondrilo {
 namespace {
 
-TEST(Counting, ARunOfCapitalsCostsOneCapsLockAndALoneCapitalOneShift) {
-    EXPECT_EQ(CountQwertyKeys(""), 0);
-    EXPECT_EQ(CountQwertyKeys("AB"), 3);
-    EXPECT_EQ(CountQwertyKeys("Ab"), 3);
-    EXPECT_EQ(CountQwertyKeys("AB c"), 6);
-    EXPECT_EQ(CountQwertyKeys("A, B"), 1 + 1 + 1 + 1 + 1) << "the run goes on over what is no letter";
-    EXPECT_EQ(CountQwertyKeys("ABc D"), 3 + 2 + 1 + 2) << "a run that ended starts anew";
-    EXPECT_EQ(CountQwertyKeys("ÇÃO"_w), 1 + 1 + 2 + 1);
-}
-
-TEST(Counting, DeadKeysAreCountedApartAndAKeyPressIsOneACharacter) {
-    EXPECT_EQ(CountQwertyKeys(" é ê ? €\n"_w), 1 + 2 + 1 + 3 + 1 + 2 + 1 + 2 + 1);
+TEST(Counting, CapitalsAccentsAndSignsCostTheKeysThatTheyNeedAndWhatHasNoKeyCostsNothing) {
+    const std::pair<TextView, int> rows[] = {
+        {"AB", 3},                   // Caps Lock once for a run
+        {"Ab", 3},                   // Shift for a lone capital
+        {"A, B", 1 + 1 + 1 + 1 + 1}, // the run goes on over what is no letter
+        {"ABc D", 3 + 2 + 1 + 2},    // a run that ended starts anew
+        {"ÇÃO"_w, 1 + 1 + 2 + 1},
+        {" é ê ? €\n"_w, 1 + 2 + 1 + 3 + 1 + 2 + 1 + 2 + 1},
+        {"ä\t\r–ÿ\0"_w, 0},
+    };
+    for (const auto& [text, keys] : rows)
+        EXPECT_EQ(CountQwertyKeys(text), keys) << text;
+    EXPECT_EQ(CountKeyPresses("AB Ab"), 7);
     EXPECT_EQ(CountKeyPresses(" é ê ? €\n"_w), 9);
-    EXPECT_EQ(CountKeyPresses("AB"), 3);
-    EXPECT_EQ(CountKeyPresses("Ab"), 3);
-}
-
-TEST(Counting, CharactersWithoutAKeyCostNothing) {
-    EXPECT_EQ(CountQwertyKeys("ä\t\r–ÿ"_w), 0);
     EXPECT_EQ(CountKeyPresses("ä\t\r–ÿ"_w), 0);
-    EXPECT_EQ(CountQwertyKeys(Text(1, '\0')), 0);
 }
 
-TEST(Counting, TheCountsOfALongTextHaveNoLimit) {
+TEST(Counting, TheCountsOfALongTextHaveNoLimitAndARunOfTerminatorsIsOneSentence) {
     Text text;
     for (int i = 0; i < 400; ++i)
-        text += "[eu] vou.\r\n";
+        text += "[eu] vou?!\r\n";
     EXPECT_EQ(CountSymbols(text), 400);
     EXPECT_EQ(CountWords(DropBrackets(text)), 800);
     EXPECT_EQ(CountSentences(DropBrackets(text)), 400);
-    EXPECT_EQ(CountCharacters("a\r\nb"), 3);
-}
-
-TEST(Counting, ARunOfTerminatorsIsOneSentence) {
-    EXPECT_EQ(CountSentences("Sim?! Não."_w), 2);
     EXPECT_EQ(CountSentences("sem fim"), 0);
-    EXPECT_EQ(CountSentences("."), 1);
-}
-
-TEST(Counting, OfTwoAdjacentBracketsTheSecondStays) {
-    EXPECT_EQ(DropBrackets("[a][b]"), "a[b");
-    EXPECT_EQ(DropBrackets("[[["), "[");
+    EXPECT_EQ(CountCharacters("a\r\nb"), 3);
+    EXPECT_EQ(DropBrackets("[a][b]"), "a[b") << "of two adjacent brackets the second stays";
 }
 
 } // namespace

@@ -16,7 +16,6 @@ TEST(Splitter, HyphenAndApostropheStayInsideAWord) {
     EXPECT_THAT(Split("O guarda-chuva, d'água?!"_w), ElementsAre("O", "guarda-chuva", "d'água"_w));
     EXPECT_THAT(Split("«Olá»: (eu/tu); \"nós\"\r\n\teles."_w),
                 ElementsAre("Olá"_w, "eu", "tu", "nós"_w, "eles"));
-    EXPECT_THAT(Split(" ., \n"), IsEmpty());
 }
 
 TEST(Splitter, ATextWithMoreWordsThanTheLimitKeepsTheFirst) {
@@ -33,41 +32,30 @@ TEST(Splitter, ATextWithMoreWordsThanTheLimitKeepsTheFirst) {
 TEST(Splitter, ABracketedWordIsOneTokenEvenWhenItIsNotClosed) {
     EXPECT_THAT(SplitTokens("vou [bom dia] já"_w), ElementsAre("vou", "[bom dia]", "já"_w));
     EXPECT_THAT(SplitTokens("vou [bom"), ElementsAre("vou", "[bom]"));
-    EXPECT_THAT(SplitTokens("vou] [a][b]!"), ElementsAre("vou", "[a]", "[b]"));
-    EXPECT_THAT(SplitTokens("[]"), ElementsAre("[]"));
+    EXPECT_THAT(SplitTokens("vou] [a][]!"), ElementsAre("vou", "[a]", "[]"));
 }
 
 TEST(Splitter, ReplacesFromTheLeftAndTrims) {
     EXPECT_EQ(Replace("a;;;;b", ";;;", " "), "a ;b");
-    EXPECT_EQ(Replace("abc", "x", "y"), "abc");
-    EXPECT_EQ(Trim(" \t\r\n"), "");
     EXPECT_EQ(Trim("\n a b\t"), "a b");
-    EXPECT_EQ(TrimLeft("  a "), "a ");
-    EXPECT_EQ(Join({"a", "b"}, "+"), "a+b");
+    EXPECT_EQ(Trim(" \t\r\n"), "");
 }
 
 TEST(Classes, AFullStopTurnsAWordIntoASentence) {
     EXPECT_TRUE(IsSingleWord(" guarda-chuva, "));
     EXPECT_FALSE(IsSingleWord("sim."));
     EXPECT_TRUE(IsSentence("sim."));
-    EXPECT_FALSE(IsSentence("?!"));
     EXPECT_TRUE(IsWordSequence("bom dia"));
     EXPECT_FALSE(IsWordSequence("bom dia."));
 }
 
 TEST(Classes, APictogramTokenHasOnePairOfBracketsAtItsEnds) {
-    EXPECT_TRUE(IsPictogramToken("[bom dia]"));
-    EXPECT_TRUE(IsPictogramToken("[]"));
+    EXPECT_TRUE(IsPictogramToken("[bom dia]") && IsPictogramToken("[]"));
     for (const TextView no : {"", "[", "]", "[a", "a]", "[a]]", "[[a]", "[a] ", "][", "[a][b]"})
         EXPECT_FALSE(IsPictogramToken(no)) << no;
-}
-
-TEST(Classes, AnEmptyTextIsAllPictogramsAndNoPictograms) {
-    EXPECT_TRUE(IsAllPictograms(""));
-    EXPECT_TRUE(HasNoPictograms(" . "));
+    EXPECT_TRUE(IsAllPictograms("") && HasNoPictograms(" . ")) << "an empty text is both";
     EXPECT_TRUE(IsAllPictograms("[eu] [quero].") && !HasNoPictograms("[eu]"));
-    EXPECT_FALSE(IsAllPictograms("[eu] quero"));
-    EXPECT_FALSE(HasNoPictograms("[eu] quero"));
+    EXPECT_FALSE(IsAllPictograms("[eu] quero") || HasNoPictograms("[eu] quero"));
 }
 
 TEST(Classes, WhatAKeyWritesTeachesByItsForm) {
@@ -78,28 +66,20 @@ TEST(Classes, WhatAKeyWritesTeachesByItsForm) {
     EXPECT_EQ(LearnedKindOf(""), LearnedKind::Nothing);
 }
 
-TEST(NormalForm, KeepsOneBlankAtTheEndAndNoneAtTheStart) {
+TEST(NormalForm, KeepsOneBlankAtTheEndNoneAtTheStartAndTheRemainderInSmallLetters) {
     EXPECT_EQ(CollapseWhiteSpace("\r\n Bom \t\n dia \n"), "Bom dia ");
-    EXPECT_EQ(NormalizeSentence(" BOM  Água"_w), "bom água"_w);
     EXPECT_EQ(CollapseWhiteSpace(" \n"), "");
-}
-
-TEST(NormalForm, TheRemainderIsInSmallLettersWhateverWasTyped) {
-    EXPECT_EQ(GetRemainder("Casa", "ca"), "sa");
+    EXPECT_EQ(NormalizeSentence(" BOM  Água"_w), "bom água"_w);
     EXPECT_EQ(GetRemainder("ÁGUA"_w, "á"_w), "gua");
     EXPECT_EQ(GetRemainder("gato", "ca"), "gato");
     EXPECT_EQ(GetRemainder("ca", "casa"), "");
 }
 
-TEST(NormalForm, AWordIsAlsoLookedForAsThePictogramThatItMayBegin) {
+TEST(NormalForm, AWordOrSentenceIsAlsoLookedForInThePictogramsThatItMayBegin) {
     EXPECT_THAT(WordForms("", ""), ElementsAre(""));
     EXPECT_THAT(WordForms("Di", " Bom  Di"), ElementsAre("di", "[di", "[bom di"));
     EXPECT_THAT(WordForms("", "bom "), ElementsAre("", "[bom "));
-    EXPECT_THAT(WordForms("q", "[eu] q"), ElementsAre("q", "[q"))
-        << "a sentence with a pictogram is no beginning of a caption";
-}
-
-TEST(NormalForm, ASentenceIsAlsoLookedForInPictograms) {
+    EXPECT_THAT(WordForms("q", "[eu] q"), ElementsAre("q", "[q")) << "no beginning of a caption";
     EXPECT_THAT(SentenceForms(" "), IsEmpty());
     EXPECT_THAT(SentenceForms("Eu quero"), ElementsAre("eu quero", "[eu] [quero"));
     EXPECT_THAT(SentenceForms("[eu] [quero]"), ElementsAre("[eu] [quero]", "eu quero"));

@@ -7,27 +7,17 @@
 namespace ondrilo {
 namespace {
 
-Text EveryByte() {
+TEST(Text, EveryByteSurvivesTheWayToUtf8AndBackAndLiteralsUseTheSameTable) {
     Text bytes;
     for (int code = 0; code < 256; ++code)
         bytes += static_cast<char>(code);
-    return bytes;
-}
-
-TEST(Text, EveryByteSurvivesTheWayToUtf8AndBack) {
-    EXPECT_EQ(FromUtf8(ToUtf8(EveryByte())), EveryByte());
-}
-
-TEST(Text, LiteralsAndTheRunTimeConversionUseTheSameTable) {
-    EXPECT_EQ("Não é só 5 € – “sim”…"_w, FromUtf8("Não é só 5 € – “sim”…"));
-    EXPECT_EQ("é"_w, "\xE9");
-    EXPECT_EQ("€"_w, "\x80");
-    EXPECT_EQ(""_w.size(), 0U);
+    EXPECT_EQ(FromUtf8(ToUtf8(bytes)), bytes);
+    EXPECT_EQ("é€–“”…"_w, "\xE9\x80\x96\x93\x94\x85");
+    EXPECT_EQ(FromUtf8("é€–“”…"), "é€–“”…"_w);
 }
 
 TEST(Text, WhatTheCodePageLacksBecomesAQuestionMarkAndBrokenUtf8NeverStopsTheConversion) {
     EXPECT_EQ(FromUtf8("a→b"), "a?b");
-    EXPECT_EQ(FromUtf8("\xC3"), "?");
     EXPECT_EQ(FromUtf8("\xE2\x82"), "??");
     EXPECT_EQ(FromUtf8("\xC0\x80"), "??") << "an overlong form is no zero byte";
     EXPECT_EQ(FromUtf8("\xED\xA0\x80"), "???") << "half a surrogate pair";
@@ -41,12 +31,6 @@ TEST(CaseFolding, FoldsEveryPairOfTheCodePageAndNothingElse) {
     EXPECT_EQ(MakeUpper("ação šœžÿ"_w), "AÇÃO ŠŒŽŸ"_w);
     EXPECT_EQ(MakeLower("×÷ß€ƒ[@`{1"_w), "×÷ß€ƒ[@`{1"_w);
     EXPECT_EQ(MakeUpper("×÷ß€ƒ[@`{1"_w), "×÷ß€ƒ[@`{1"_w);
-}
-
-TEST(CaseFolding, FoldingTwiceChangesNothingMore) {
-    EXPECT_EQ(MakeLower(MakeLower(EveryByte())), MakeLower(EveryByte()));
-    for (const char c : EveryByte())
-        EXPECT_EQ(MakeLower(MakeUpper(c)), MakeLower(c)) << static_cast<int>(c);
 }
 
 } // namespace
