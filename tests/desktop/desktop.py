@@ -61,8 +61,9 @@ class Desktop:
         for name in ('QT_QPA_PLATFORM', 'QT_SCALE_FACTOR', 'WAYLAND_DISPLAY', 'XAUTHORITY', 'SESSION_MANAGER'):
             os.environ.pop(name, None)
         os.environ['QT_LINUX_ACCESSIBILITY_ALWAYS_ON'] = '1'
+        # Without "-noreset" the server starts anew when a look at it ends, and turns away who comes meanwhile.
         os.environ['DISPLAY'] = ':' + self._answer(['Xvfb', '-displayfd', '1', '-screen', '0', SCREEN,
-                                                    '-nolisten', 'tcp'])
+                                                    '-nolisten', 'tcp', '-noreset'])
         os.environ['DBUS_SESSION_BUS_ADDRESS'] = self._answer(['dbus-daemon', '--session', '--nofork',
                                                                '--print-address=1'])
         self.start(['openbox'])
