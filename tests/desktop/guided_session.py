@@ -34,6 +34,7 @@ def main():
         ondrilo.click('Maiúscula')
         ondrilo.click('q')
         ondrilo.click('u')
+        ondrilo.click('e')
         wait_for(lambda: 'quero' in ondrilo.keys(), 'the prediction "quero"')
         desktop.picture(folder / 'ecra.png')
         ondrilo.click('quero')
