@@ -1,0 +1,42 @@
+#!/usr/bin/python3
+"""A program that is killed in the middle of a word has lost that word alone, and counts the others once."""
+
+from desktop import Program, wait_for
+from story import expect, play, prepare_data, set_option
+
+
+def story(desktop, program):
+    prepare_data(desktop)
+    for name in ('geral.pal', 'geral.par', 'geral.frs', 'geral.paf'):
+        (desktop.data / name).write_text('')
+    set_option(desktop, 'TEMPO_DE_PREDICAO', 200)
+    journal = desktop.data / 'generico.jrn'
+
+    def lines(name):
+        return (desktop.data / name).read_text('cp1252').splitlines()
+
+    ondrilo = Program(desktop, program)
+    desktop.xdotool('type', '--delay', '20', 'tangerina madura. sim abac')
+    ondrilo.expect_text('tangerina madura. sim abac')
+    wait_for(lambda: journal.exists() and 'sim' in journal.read_text('cp1252'), 'the last whole word in the journal')
+    expect(lines('generico.pal') == [], 'words were saved before the end')
+    ondrilo.process.kill()
+    ondrilo.process.wait(10)
+
+    ondrilo = Program(desktop, program)
+    desktop.press('t', 'a')
+    wait_for(lambda: 'tangerina' in ondrilo.keys(), 'the prediction of a word from before')
+    ondrilo.click('tangerina')
+    ondrilo.expect_text('tangerina ')
+    wait_for(lambda: 'madura' in ondrilo.keys(), 'the prediction of the word that followed it')
+    expect('abac' not in ondrilo.keys(), 'half a word was learned')
+
+    expect(ondrilo.quit() == 0, 'the program did not end well')
+    expect(lines('generico.pal') == ['___ 2', 'madura 1', 'sim 1', 'tangerina 2'],
+           'the words are %r' % lines('generico.pal'))
+    expect('tangerina madura 1' in lines('generico.par'), 'the pairs are %r' % lines('generico.par'))
+    expect('tangerina|madura. 1' in lines('generico.frs'), 'the sentences are %r' % lines('generico.frs'))
+    expect(not journal.exists(), 'the normal end left a journal')
+
+
+play(story)
