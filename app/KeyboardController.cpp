@@ -60,6 +60,8 @@ void KeyboardController::CloseKeyboard() {
     placement.SetKeyboardWindow(nullptr);
     keyboardWindow.reset();
     keyboard.Close();
+    // What its keys and its scanning still had to say would be taken for the keys of the next one.
+    queue.Clear(Message::UM_KEY_HOVER, Message::UM_KEY_DOUBLE_CLICK);
 }
 
 bool KeyboardController::WantsToKeepChanges() {

@@ -42,6 +42,12 @@ void MessageQueue::Clear() {
     events.clear();
 }
 
+void MessageQueue::Clear(Message first, Message last) {
+    const std::lock_guard lock(mutex);
+    std::erase_if(events,
+                  [=](const MessageEvent& event) { return event.message >= first && event.message <= last; });
+}
+
 void MessageQueue::Release() {
     if (--holds > 0)
         return;

@@ -71,6 +71,8 @@ class MessageQueue {
     /// inside a handler (a dialog's loop) it goes on with the next event. Does nothing while held.
     void Drain(const std::function<void(const MessageEvent&)>& handle);
     void Clear();
+    /// Throws away what waits of the messages from `first` to `last`.
+    void Clear(Message first, Message last);
     [[nodiscard]] bool IsHeld() const { return holds > 0; }
 
   private:

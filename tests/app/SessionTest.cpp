@@ -79,11 +79,13 @@ TEST_F(RunningSystem, WhileAKeyboardIsAskedAboutNothingElseTakesItAway) {
     view->Keyboard().MarkModified();
     boxes.whileAsked = [this] {
         queue.Post(Message::UM_KEY_PRESS, KeyOf("outro.tec").Packed());
+        queue.Post(Message::UM_SCAN_KEY_SELECTED, COnScreenKeyIdentifier{0, 0, 0}.Packed());
         Drain();
         EXPECT_EQ(boxes.shown.size(), 1U) << "a second link";
     };
     Click("outro.tec");
     EXPECT_EQ(Options().activeKeyboardName, "outro");
+    EXPECT_EQ(Written(), "") << "a key of the former keyboard was taken for the one in its place";
 
     view->Keyboard().MarkModified();
     boxes.whileAsked = [this] {
