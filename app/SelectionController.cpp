@@ -175,7 +175,10 @@ void SelectionController::SelectImage(COnScreenKeyIdentifier key, const ActionOr
         services.metrics.Count(family.count);
         services.metrics.Count(family.position, list.IndexOf(list.PositionOf(key).value_or(0)));
     }
-    HearAfter(description, key, origin, family.spokenAfter);
+    if (IsOn(option::OUVIR_DEPOIS_COMPLETAR)) {
+        events.Action(origin, family.spokenAfter, key);
+        speech.SpeakText(description);
+    }
     completion.CompleteImage(key);
     state.ForgetSelection();
     if (SuggestionsGoAfterSelection())
@@ -213,8 +216,8 @@ void SelectionController::HearAfter(const Text& description, COnScreenKeyIdentif
                                     const ActionOrigin& origin, TextView event) {
     if (!IsOn(option::OUVIR_DEPOIS_COMPLETAR))
         return;
-    events.Action(origin, event, key);
     speech.SpeakText(description);
+    events.Action(origin, event, key);
 }
 
 void SelectionController::SelectTextKey(COnScreenKeyIdentifier key, const ActionOrigin& origin) {
