@@ -21,6 +21,7 @@ extern const Command kCheckCommand;
 extern const Command kCorpusCommand;
 extern const Command kKeyboardCommand;
 extern const Command kPredictCommand;
+extern const Command kSimulateCommand;
 extern const Command kVocabularyCommand;
 
 } // namespace ondrilo

@@ -7,8 +7,8 @@
 namespace ondrilo {
 namespace {
 
-const Command* const kCommands[] = {&kCheckCommand, &kCorpusCommand, &kKeyboardCommand, &kPredictCommand,
-                                    &kVocabularyCommand};
+const Command* const kCommands[] = {&kCheckCommand,   &kCorpusCommand,   &kKeyboardCommand,
+                                    &kPredictCommand, &kSimulateCommand, &kVocabularyCommand};
 
 constexpr ToolOption kCommonOptions[] = {
     {"--encoding", "NAME", "utf-8 (standard) or windows-1252: how texts travel on the terminal"},

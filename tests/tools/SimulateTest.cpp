@@ -1,0 +1,66 @@
+#include "tests/support/TemporaryFolder.h"
+#include "tools/Commands.h"
+
+#include <gtest/gtest.h>
+
+#include <iostream>
+#include <sstream>
+
+namespace ondrilo {
+namespace {
+
+constexpr ToolOption kEncoding = {"--encoding", "NAME", ""};
+
+class Simulate : public testing::Test {
+  protected:
+    Simulate() {
+        folder.Write("geral.pal", "água 4\nbom 3\n"_w);
+        for (const auto* name :
+             {"geral.par", "geral.frs", "geral.paf", "ana.pal", "ana.par", "ana.frs", "ana.paf"})
+            folder.Write(name, "");
+        folder.Write("ana.cfg", "NUMERO_MAXIMO_PALAVRAS_PREDITAS 1\n");
+    }
+    /// What is printed for a text with these options.
+    std::string Printed(const std::string& bytes, std::vector<std::string> words = {}) {
+        texts.Write("texto.txt", bytes);
+        words.insert(words.begin(), {"words", "--data", folder.Path().string(), "--profile", "ana", "--text",
+                                     (texts.Path() / "texto.txt").string()});
+        std::vector<ToolOption> options(kSimulateCommand.options.begin(), kSimulateCommand.options.end());
+        options.push_back(kEncoding);
+        std::ostringstream out;
+        auto* const oldOut = std::cout.rdbuf(out.rdbuf());
+        const auto code = kSimulateCommand.run(Arguments(std::move(words), options));
+        std::cout.rdbuf(oldOut);
+        EXPECT_EQ(code, 0);
+        return out.str();
+    }
+
+    TemporaryFolder folder;
+    TemporaryFolder texts;
+};
+
+TEST_F(Simulate, TellsWhatIsSavedOnATextOfEitherEncoding) {
+    const auto utf8 = Printed("\xEF\xBB\xBF"
+                              "água\n");
+    EXPECT_EQ(utf8.substr(0, utf8.find("Percentagem")), "Número de Palavras: 1\nNúmero de Caracteres: 5\n"
+                                                        "Número de Caracteres Escritos Pelo Utilizador: 2\n");
+    EXPECT_EQ(Printed(std::string("água"_w), {"--encoding", "windows-1252"}), FromUtf8(utf8));
+    EXPECT_NE(Printed("água", {"--predictions", "0"}), utf8);
+}
+
+TEST_F(Simulate, WritesARowARunAndLeavesTheDataAlone) {
+    const auto rows = texts.Path() / "linhas.sim";
+    Printed("xis xis", {"--adapt", "1", "--sim", rows.string()});
+    EXPECT_EQ(texts.Read("linhas.sim"), "2\t8\t6\t25\t6\t6\t0\t5\t1\t0.0\t1.0\n");
+    const auto six = Printed("xis xis", {"--type=1", "--sim", rows.string()});
+    const auto written = texts.Read("linhas.sim");
+    EXPECT_EQ(std::count(written.begin(), written.end(), '\n'), 6);
+    EXPECT_EQ(std::count(six.begin(), six.end(), '\n'), 6 * 12 - 1)
+        << "eleven figures a run, and a line between";
+    EXPECT_EQ(folder.Read("ana.cfg"), "NUMERO_MAXIMO_PALAVRAS_PREDITAS 1\n");
+    EXPECT_EQ(folder.Read("ana.pal"), "");
+    EXPECT_THROW(Printed("", {"--type", "3"}), UsageError);
+}
+
+} // namespace
+} // namespace ondrilo
