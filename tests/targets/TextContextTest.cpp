@@ -5,10 +5,6 @@
 namespace ondrilo {
 namespace {
 
-TextContext AtEnd(TextView text) {
-    return {Text(text), text.size()};
-}
-
 /// The insertion point stands at the "|".
 TextContext At(TextView marked) {
     const auto cursor = marked.find('|');
@@ -16,7 +12,7 @@ TextContext At(TextView marked) {
 }
 
 TEST(TextContextTest, PreviousWordsReachAcrossTheSentenceAndNoFurtherThanOne) {
-    const auto context = AtEnd("Sim. Olá. Tudo bem"_w);
+    const auto context = At("Sim. Olá. Tudo bem|"_w);
     EXPECT_EQ(context.CurrentWordLeft(), "bem");
     EXPECT_EQ(context.PreviousWord(1), "Tudo");
     EXPECT_EQ(context.PreviousWord(2), "Olá"_w);
@@ -25,39 +21,27 @@ TEST(TextContextTest, PreviousWordsReachAcrossTheSentenceAndNoFurtherThanOne) {
     EXPECT_EQ(context.PreviousSentence(1), " Olá."_w);
     EXPECT_EQ(context.PreviousSentence(2), "Sim.");
     EXPECT_EQ(context.PreviousSentence(3), "");
+    EXPECT_EQ(At("Olá?! |"_w).PreviousSentence(1), "!") << "each terminator of a row ends one";
+    EXPECT_EQ(At("Olá?! |"_w).PreviousSentence(2), "Olá?"_w);
 }
 
-TEST(TextContextTest, AfterABlankThePreviousWordIsTheLastOne) {
-    const auto context = AtEnd("Tudo bem ");
-    EXPECT_EQ(context.CurrentWordLeft(), "");
-    EXPECT_EQ(context.PreviousWord(1), "bem");
-    EXPECT_EQ(context.PreviousWord(2), "Tudo");
-}
-
-TEST(TextContextTest, HyphenAndApostropheDoNotEndAWord) {
-    EXPECT_EQ(AtEnd("o guarda-").CurrentWordLeft(), "guarda-");
-    EXPECT_EQ(AtEnd("copo d'ág"_w).CurrentWordLeft(), "d'ág"_w);
-}
-
-TEST(TextContextTest, TheWordAroundTheInsertionPointIsCutThere) {
+TEST(TextContextTest, TheWordAroundTheInsertionPointIsCutThereAndNotAtAHyphenOrApostrophe) {
     const auto context = At("vou com|er. Sim");
     EXPECT_EQ(context.CurrentWordLeft(), "com");
     EXPECT_EQ(context.CurrentWordRight(), "er");
     EXPECT_EQ(context.CurrentSentenceRight(), "er.");
     EXPECT_EQ(At("vou| comer").CurrentWordRight(), "");
-}
-
-TEST(TextContextTest, OfSeveralTerminatorsInARowEachIsASentence) {
-    EXPECT_EQ(AtEnd("Olá?! "_w).PreviousSentence(1), "!");
-    EXPECT_EQ(AtEnd("Olá?! "_w).PreviousSentence(2), "Olá?"_w);
+    EXPECT_EQ(At("o d'guarda-|"_w).CurrentWordLeft(), "d'guarda-"_w);
+    EXPECT_EQ(At("Tudo bem |").CurrentWordLeft(), "");
+    EXPECT_EQ(At("Tudo bem |").PreviousWord(1), "bem");
 }
 
 TEST(TextContextTest, MoreWordsThanASplitYieldsDoNotFreezeThePreviousWord) {
     Text text;
     for (int i = 0; i < 300; ++i)
         text += "palavra ";
-    EXPECT_EQ(AtEnd(text + "fim ").PreviousWord(1), "fim");
-    EXPECT_EQ(AtEnd(text + "fim ").LabelledPreviousWord(1), "fim");
+    EXPECT_EQ(At(text + "fim |").PreviousWord(1), "fim");
+    EXPECT_EQ(At(text + "fim |").LabelledPreviousWord(1), "fim");
 }
 
 TEST(TextContextTest, AnImpossibleInsertionPointOrAnEmptyTextGivesNothing) {
@@ -69,28 +53,19 @@ TEST(TextContextTest, AnImpossibleInsertionPointOrAnEmptyTextGivesNothing) {
 }
 
 TEST(LabelledContextTest, ATagThatHoldsATerminatorIsClosedAtItAndDoesNotLeakIntoTheNextSentence) {
-    const auto context = AtEnd("vou [bom dia. sim] ja");
-    EXPECT_EQ(context.LabelledPreviousSentence(1), "vou [bom dia.]");
-    EXPECT_EQ(context.LabelledSentenceLeft(), " sim ja");
-}
-
-TEST(LabelledContextTest, ATagAcrossThreeSentencesIsRepairedInTheMiddleOneToo) {
-    const auto context = AtEnd("[um. dois. tres] e");
+    const auto context = At("[um. dois. tres] e|");
     EXPECT_EQ(context.LabelledPreviousSentence(2), "[um.]");
     EXPECT_EQ(context.LabelledPreviousSentence(1), " dois.") << "the bracket that closes it has no beginning";
+    EXPECT_EQ(context.LabelledSentenceLeft(), " tres e");
 }
 
-TEST(LabelledContextTest, WholeTagsStayAsTheyAre) {
-    const auto context = AtEnd("[eu] vou. [bom dia] e ");
+TEST(LabelledContextTest, WholeTagsStayAsTheyAreAndAreOnePreviousWordAcrossSentences) {
+    const auto context = At("[eu] vou. [bom dia] e |");
     EXPECT_EQ(context.LabelledPreviousSentence(1), "[eu] vou.");
     EXPECT_EQ(context.LabelledSentenceLeft(), " [bom dia] e ");
-}
-
-TEST(LabelledContextTest, ATagIsOnePreviousWordAcrossSentences) {
-    const auto context = AtEnd("Sim. [bom dia] vou");
-    EXPECT_EQ(context.LabelledPreviousWord(1), "[bom dia]");
-    EXPECT_EQ(context.LabelledPreviousWord(2), "Sim");
-    EXPECT_EQ(context.LabelledPreviousWord(3), "");
+    EXPECT_EQ(context.LabelledPreviousWord(2), "[bom dia]");
+    EXPECT_EQ(context.LabelledPreviousWord(3), "vou");
+    EXPECT_EQ(context.LabelledPreviousWord(5), "");
 }
 
 } // namespace
