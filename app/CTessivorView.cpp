@@ -47,8 +47,8 @@ CTessivorView::CTessivorView(const Environment& environment, const SessionServic
       router(userProfiles, targets, keyboard, predictionKeys, specialKeys, keySelection, selections,
              abbreviations, speech, learning, preview, sender, scanning, placement, chrome, countdowns,
              writingClock, events, state, services),
-      menuController(environment.frame, environment.boxes, userProfiles, keyboard, session, chrome,
-                     countdowns, events, services) {
+      menuController(environment, userProfiles, systemOptions, keyboard, session, cycle, chrome, countdowns,
+                     events, services) {
     session.SetClock(clock);
     environment.frame.SetListener(this);
 }

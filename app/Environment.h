@@ -2,6 +2,7 @@
 
 #include "app/FrameWindow.h"
 #include "app/SessionWindows.h"
+#include "platform/Clipboard.h"
 #include "platform/Clock.h"
 #include "platform/DataFolder.h"
 #include "platform/Desktop.h"
@@ -24,6 +25,7 @@ struct Environment {
     KeyOutput& keys;
     MessageBoxes& boxes;
     Dialogs& dialogs;
+    Clipboard& clipboard;
     SoundPlayer& sounds;
     ProgramStarter& programs;
     TextMeasure& textMeasure;

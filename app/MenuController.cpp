@@ -2,18 +2,30 @@
 
 namespace ondrilo {
 
-MenuController::MenuController(FrameWindow& frame, MessageBoxes& boxes, CUserProfileSet& profiles,
-                               const COnScreenKeyboard& keyboard, SessionController& session,
-                               WindowChrome& chrome, Countdowns& countdowns, EventWriter& events,
-                               const SessionServices& services)
-    : frame(frame), boxes(boxes), profiles(profiles), keyboard(keyboard), session(session), chrome(chrome),
-      countdowns(countdowns), events(events), services(services) {
+MenuController::MenuController(const Environment& environment, CUserProfileSet& profiles,
+                               const CSystemOptions& systemOptions, const COnScreenKeyboard& keyboard,
+                               SessionController& session, PredictionCycle& cycle, WindowChrome& chrome,
+                               Countdowns& countdowns, EventWriter& events, const SessionServices& services)
+    : frame(environment.frame), boxes(environment.boxes), profiles(profiles), systemOptions(systemOptions),
+      keyboard(keyboard), session(session), chrome(chrome), countdowns(countdowns), events(events),
+      services(services), bulkLearning(environment, profiles), simulators(environment, profiles, cycle) {
 }
 
 void MenuController::Execute(int command) {
     countdowns.context.Stop();
     services.userRecord.MenuSelected(command);
     switch (command) {
+    case menu::LearnFromFile:
+        if (MayChangeSystem())
+            bulkLearning.LearnFromFile();
+        break;
+    case menu::LearnFromClipboard:
+        if (MayChangeSystem())
+            bulkLearning.LearnFromClipboard();
+        break;
+    case menu::SimulateWords:
+        simulators.SimulateWords();
+        break;
     case menu::OpenProfile:
         OpenProfile();
         break;
@@ -30,6 +42,14 @@ void MenuController::Execute(int command) {
         break;
     }
     countdowns.context.Restart();
+}
+
+bool MenuController::MayChangeSystem() {
+    if (systemOptions.IsOn(system_option::ALTERACOES_SISTEMA))
+        return true;
+    boxes.Show(
+        "As alterações ao sistema estão bloqueadas! Este bloqueio pode ser retirado em Opções Gerais."_w);
+    return false;
 }
 
 void MenuController::OpenProfile() {

@@ -6,6 +6,7 @@
 #include "platform/linux/CanberraSoundPlayer.h"
 #include "platform/linux/FlockInstanceLock.h"
 #include "platform/linux/PosixProgramStarter.h"
+#include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtDesktop.h"
 #include "platform/qt/QtMessageBoxes.h"
@@ -45,6 +46,7 @@ int Run(const std::filesystem::path& dataFolder, QtDesktop& desktop, QtMessageBo
     QtTextMeasure textMeasure;
     QtPictures pictures(data);
     QtDialogs dialogs(desktop);
+    QtClipboard clipboard;
     CMainFrame frame(queue, desktop, keys);
     QtSessionWindows windows({frame, queue, timers, sounds, keys, data, pictures});
     NullServices services;
@@ -57,6 +59,7 @@ int Run(const std::filesystem::path& dataFolder, QtDesktop& desktop, QtMessageBo
                         .keys = keys,
                         .boxes = boxes,
                         .dialogs = dialogs,
+                        .clipboard = clipboard,
                         .sounds = sounds,
                         .programs = programs,
                         .textMeasure = textMeasure,

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "platform/SimulatorDialog.h"
 #include "text/Text.h"
 
+#include <filesystem>
 #include <optional>
 #include <vector>
 
@@ -24,6 +26,10 @@ class Dialogs {
     virtual ~Dialogs() = default;
     /// "Seleccionar Perfil de Utilizador": the chosen name, or nothing on Cancel.
     [[nodiscard]] virtual std::optional<Text> ChooseProfile(const std::vector<Text>& names) = 0;
+    /// A text file that exists; nothing on Cancel.
+    [[nodiscard]] virtual std::optional<std::filesystem::path> ChooseTextFile() = 0;
+    /// "Simulador de Predição de Palavras"; returns when it is closed.
+    virtual void SimulateWords(Simulator& simulator) = 0;
 };
 
 } // namespace ondrilo

@@ -48,8 +48,8 @@ std::vector<Entry> MainMenu() {
                  Submenu("Dicionário do Perfil", {{"Palavras e Pictogramas...", 32905},
                                                   {"Frases e Sequências de Palavras e Pictogramas...", 32907},
                                                   {"Abreviaturas...", 32906}}),
-                 Submenu("Adaptar ao Utilizador",
-                         {{"A Partir de Ficheiro...", 32908}, {"A Partir do Clipboard", 32909}})}),
+                 Submenu("Adaptar ao Utilizador", {{"A Partir de Ficheiro...", menu::LearnFromFile},
+                                                   {"A Partir do Clipboard", menu::LearnFromClipboard}})}),
         Submenu("&Teclado",
                 {Submenu("Novo Teclado", {{"A Criar de Raiz...", 32925}, {"A Partir de Modelo...", 32926}}),
                  {"Abrir Teclado...", 32927},
@@ -70,7 +70,7 @@ std::vector<Entry> MainMenu() {
              Submenu("Registos do Configurador", {{"Efectuar Registo...", 32899},
                                                   {"Copiar Registo Para...", 32938},
                                                   {"Limpar Registo", 32939}}),
-             Submenu("Simuladores", {{"Simulador de Predição de Palavras...", 32940},
+             Submenu("Simuladores", {{"Simulador de Predição de Palavras...", menu::SimulateWords},
                                      {"Simulador de Predição de Texto...", 32948},
                                      {"Simulador de Predição de Pictogramas...", 32950}})}),
         Submenu("Aj&uda", {{"&Acerca Tessivor...", menu::About}}),
@@ -80,9 +80,9 @@ std::vector<Entry> MainMenu() {
 /// The status line's prompts of the two entries have always been the other's.
 const char* PromptOf(int number) {
     switch (number) {
-    case 32908:
+    case menu::LearnFromFile:
         return "Adaptar o dicionário de palavras com base num texto da área de transferência.";
-    case 32909:
+    case menu::LearnFromClipboard:
         return "Adaptar o dicionário de palavras com base num ficheiro de texto.";
     default:
         return "";
@@ -90,9 +90,12 @@ const char* PromptOf(int number) {
 }
 
 bool IsBuilt(int number) {
-    constexpr std::array built = {menu::OpenProfile, menu::DisableMenu, menu::HideMenuAndBars,
-                                  menu::Copy,        menu::Cut,         menu::Paste,
-                                  menu::Undo,        menu::About,       menu::Quit};
+    constexpr std::array built = {menu::LearnFromFile, menu::LearnFromClipboard,
+                                  menu::SimulateWords, menu::OpenProfile,
+                                  menu::DisableMenu,   menu::HideMenuAndBars,
+                                  menu::Copy,          menu::Cut,
+                                  menu::Paste,         menu::Undo,
+                                  menu::About,         menu::Quit};
     return std::find(built.begin(), built.end(), number) != built.end();
 }
 

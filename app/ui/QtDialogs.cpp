@@ -1,5 +1,7 @@
 #include "app/ui/QtDialogs.h"
 
+#include "dialogs/CWordPredictionSimulatorDlg.h"
+#include "dialogs/TextFileChooser.h"
 #include "platform/qt/FocusReturn.h"
 #include "platform/qt/QtConversion.h"
 
@@ -32,6 +34,15 @@ std::optional<Text> QtDialogs::ChooseProfile(const std::vector<Text>& names) {
     if (RunDialog(dialog, desktop) != QDialog::Accepted || list->currentRow() < 0)
         return std::nullopt;
     return names[static_cast<std::size_t>(list->currentRow())];
+}
+
+std::optional<std::filesystem::path> QtDialogs::ChooseTextFile() {
+    return AskForTextFile(desktop);
+}
+
+void QtDialogs::SimulateWords(Simulator& simulator) {
+    CWordPredictionSimulatorDlg dialog(simulator, desktop);
+    RunDialog(dialog, desktop);
 }
 
 } // namespace ondrilo

@@ -10,6 +10,8 @@ class QtDialogs : public Dialogs {
   public:
     explicit QtDialogs(Desktop& desktop) : desktop(desktop) {}
     [[nodiscard]] std::optional<Text> ChooseProfile(const std::vector<Text>& names) override;
+    [[nodiscard]] std::optional<std::filesystem::path> ChooseTextFile() override;
+    void SimulateWords(Simulator& simulator) override;
 
   private:
     Desktop& desktop;

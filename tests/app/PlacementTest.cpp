@@ -89,9 +89,7 @@ TEST_F(RunningSystem, TheWindowKeepsAwayFromTheCaretOrFollowsIt) {
     windows.editor->caret = {100, 100};
     Tick(20);
     EXPECT_EQ(frame.position.x, 5) << "not while the system's own window is in front";
-    CaretFollower follower({DataFolder(folder.Path()), queue, clock, timers, desktop, keys, boxes, dialogs,
-                            sounds, programs, textMeasure, pictureMeasure, frame, windows},
-                           view->Profiles(), view->Keyboard(), view->TextTargets());
+    CaretFollower follower(Surroundings(), view->Profiles(), view->Keyboard(), view->TextTargets());
     const auto whole = frame.Frame();
     follower.Move();
     EXPECT_EQ(frame.position, (Point{1920 - whole.width, 1080 - whole.height}));

@@ -2,6 +2,7 @@
 
 #include "app/CTessivorView.h"
 #include "tests/app/RecordingServices.h"
+#include "tests/support/FakeClipboard.h"
 #include "tests/support/FakeClock.h"
 #include "tests/support/FakeDesktop.h"
 #include "tests/support/FakeDialogs.h"
@@ -78,11 +79,13 @@ class RunningSystem : public testing::Test {
 
     /// Options of the profile "generico" over those of the fixture.
     void SetOptions(TextView options) const { folder.Write("generico.cfg", Text(kOptions).append(options)); }
+    [[nodiscard]] Environment Surroundings() {
+        const DataFolder data(folder.Path());
+        return {data,      queue,  clock,    timers,      desktop,        keys,  boxes,  dialogs,
+                clipboard, sounds, programs, textMeasure, pictureMeasure, frame, windows};
+    }
     void Start() {
-        view = std::make_unique<CTessivorView>(Environment{DataFolder(folder.Path()), queue, clock, timers,
-                                                           desktop, keys, boxes, dialogs, sounds, programs,
-                                                           textMeasure, pictureMeasure, frame, windows},
-                                               services.All());
+        view = std::make_unique<CTessivorView>(Surroundings(), services.All());
         view->OnInitialUpdate();
     }
     /// Starts and lets the focus settle, so that the editor is the target.
@@ -150,6 +153,7 @@ class RunningSystem : public testing::Test {
     FakeKeyOutput keys;
     FakeMessageBoxes boxes;
     FakeDialogs dialogs;
+    FakeClipboard clipboard;
     FakeSounds sounds;
     FakePrograms programs;
     FakeTextMeasure textMeasure;

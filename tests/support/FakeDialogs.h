@@ -2,6 +2,8 @@
 
 #include "platform/Dialogs.h"
 
+#include <functional>
+
 namespace ondrilo {
 
 /// Answers every dialog with what the test has set.
@@ -11,9 +13,16 @@ class FakeDialogs : public Dialogs {
         offeredProfiles = names;
         return chosenProfile;
     }
+    [[nodiscard]] std::optional<std::filesystem::path> ChooseTextFile() override { return chosenFile; }
+    void SimulateWords(Simulator& simulator) override {
+        if (inSimulator)
+            inSimulator(simulator);
+    }
 
     std::optional<Text> chosenProfile;
     std::vector<Text> offeredProfiles;
+    std::optional<std::filesystem::path> chosenFile;
+    std::function<void(Simulator&)> inSimulator; ///< what the person does in the window
 };
 
 } // namespace ondrilo
