@@ -52,8 +52,6 @@ void SessionClock::OnTimer() {
     if (countdowns.prediction.Tick(Options().Get(option::TEMPO_DE_PREDICAO))) {
         countdowns.prediction.Stop();
         cycle.RunPrediction();
-        // The person rests, and reads: now the disk may take its time.
-        profiles.FlushLearned();
     }
     if (systemOptions.IsOn(system_option::ADAPTACAO_CONTEXTO) && countdowns.context.Tick(kContextPeriod) &&
         countdowns.idle.IsStopped())
@@ -87,6 +85,7 @@ void SessionClock::ReadHints() {
 
 void SessionClock::PauseWriting() {
     countdowns.idle.Stop();
+    // The person rests: only now may the disk take its time.
     profiles.FlushLearned();
     writingClock.Pause(Options().Get(option::TEMPO_INACTIVIDADE_COMUNICACAO));
 }
