@@ -1,8 +1,9 @@
 #include "benchmarks/GeneratedData.h"
 #include "benchmarks/Measures.h"
-#include "prediction/CDictionary.h"
+#include "profiles/store/CUserProfile.h"
 
 #include <memory>
+#include <stdexcept>
 
 namespace ondrilo {
 namespace {
@@ -55,25 +56,93 @@ void LoadEverything(benchmark::State& state) {
 }
 BENCHMARK(LoadEverything)->Unit(benchmark::kMillisecond)->Iterations(5);
 
-/// A word as the session learns it: the word, then the pair with the one before.
+/// Profiles with the general files of the full data in common, each with a copy of the person's own.
+class Profiles {
+  public:
+    explicit Profiles(std::size_t count) : folder(GeneratedData::Full().Folder()) {
+        for (std::size_t i = 0; i < count; ++i)
+            Add("p" + std::to_string(i));
+    }
+
+    CUserProfile& operator[](std::size_t i) { return *profiles[i]; }
+    void Load(std::size_t i) {
+        if (!profiles[i]->LoadDictionary().empty())
+            throw std::runtime_error("a file is missing");
+    }
+
+  private:
+    void Add(const Text& name) {
+        for (const char* extension : {".pal", ".par", ".abr", ".frs", ".paf"})
+            std::filesystem::copy_file(folder / (Text(GeneratedData::ProfileName()) + extension),
+                                       folder / (name + extension),
+                                       std::filesystem::copy_options::overwrite_existing);
+        auto& profile = *profiles.emplace_back(std::make_unique<CUserProfile>(general));
+        profile.properties.profileName = name;
+        profile.properties.dictionaryFolder = folder;
+    }
+
+    std::filesystem::path folder;
+    std::shared_ptr<GeneralStore> general = std::make_shared<GeneralStore>();
+    std::vector<std::unique_ptr<CUserProfile>> profiles;
+};
+
+/// One profile is left and another opened. `learned`: all four files of the one that is left are saved.
+void ChangeProfile(benchmark::State& state, bool learned) {
+    Profiles profiles(2);
+    profiles.Load(0);
+    std::size_t active = 0;
+    while (state.KeepRunning()) {
+        const Lessons lessons{{Lesson::Kind::Word, "___"},
+                              {Lesson::Kind::WordPair, "___", "___"},
+                              {Lesson::Kind::Sentence, "___"},
+                              {Lesson::Kind::SentencePair, "___", "___"}};
+        if (learned)
+            (void)profiles[active].Learn(lessons);
+        (void)profiles[active].ReleaseDictionary();
+        active = 1 - active;
+        profiles.Load(active);
+    }
+}
+
+void ChangeUnchangedProfile(benchmark::State& state) {
+    ChangeProfile(state, false);
+}
+BENCHMARK(ChangeUnchangedProfile)->Unit(benchmark::kMillisecond)->Iterations(20)->UseRealTime();
+
+void ChangeProfileThatLearned(benchmark::State& state) {
+    ChangeProfile(state, true);
+}
+BENCHMARK(ChangeProfileThatLearned)->Unit(benchmark::kMillisecond)->Iterations(20)->UseRealTime();
+
+void KeepTenProfiles(benchmark::State& state) {
+    while (state.KeepRunning()) {
+        ResetPeakMemory();
+        const Memory before = ReadMemory();
+        Profiles profiles(10);
+        for (std::size_t i = 0; i < 10; ++i)
+            profiles.Load(i);
+        ReportMemory(state, before, ReadMemory());
+    }
+}
+BENCHMARK(KeepTenProfiles)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+/// A word as the session learns it: the word, the pair with the one before, and their line in the journal.
 void LearnWords(benchmark::State& state, const std::vector<Text>& words) {
-    CDictionary dictionary;
-    (void)dictionary.LoadProfileDictionaries(DataFolder(GeneratedData::Full().Folder()),
-                                             GeneratedData::ProfileName(), false);
+    Profiles profiles(1);
+    profiles.Load(0);
     Percentiles percentiles;
     std::size_t next = 0;
     Text previous = "___";
     while (state.KeepRunning()) {
         const Text& word = words[next++ % words.size()];
         percentiles.Measure([&] {
-            dictionary.AddUserWord(word);
-            dictionary.AddUserWordPair(previous, word);
+            (void)profiles[0].Learn(
+                Lessons{{Lesson::Kind::Word, word}, {Lesson::Kind::WordPair, previous, word}});
         });
         previous = word;
     }
     percentiles.Report(state);
-    // What was learned here is nobody's.
-    dictionary.Clear();
+    (void)profiles[0].ReleaseDictionary();
 }
 
 void LearnKnownWord(benchmark::State& state) {

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cmath>
 #include <fstream>
 #include <numeric>
@@ -232,6 +233,10 @@ GeneratedData::GeneratedData(const DataSize& size)
     WritePairs(folder / (user + ".paf"), userSentences, RankEntries(userSentences, random), size.userPairs,
                random);
     Output(folder / (user + ".abr")).Line("bd", "bom dia");
+    // As a rule general files are old when a session begins.
+    for (const auto& file : std::filesystem::directory_iterator(folder))
+        std::filesystem::last_write_time(file, std::filesystem::file_time_type::clock::now() -
+                                                   std::chrono::hours(1));
 }
 
 GeneratedData::~GeneratedData() {

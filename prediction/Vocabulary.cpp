@@ -57,14 +57,18 @@ Vocabulary::Found Vocabulary::Find(TextView text) const {
     if (const EntryId entry = general->Find(text); entry != kNoEntry)
         return {entry, PositionOf(entry)};
 
-    const auto place = std::partition_point(added.begin(), added.end(),
-                                            [&](const AddedEntry& own) { return TextOf(own.entry) < text; });
-    const auto number = static_cast<std::size_t>(place - added.begin());
-    if (place != added.end() && TextOf(place->entry) == text)
-        return {place->entry, place->before + number};
+    const std::size_t number = AddedBefore(text);
+    if (number < added.size() && TextOf(added[number].entry) == text)
+        return {added[number].entry, added[number].before + number};
     const auto before = SearchPosition(
         general->Count(), text, [this](std::size_t at) { return general->TextOf(static_cast<EntryId>(at)); });
     return {kNoEntry, before + number};
+}
+
+std::size_t Vocabulary::AddedBefore(TextView text) const {
+    const auto place = std::partition_point(added.begin(), added.end(),
+                                            [&](const AddedEntry& own) { return TextOf(own.entry) < text; });
+    return static_cast<std::size_t>(place - added.begin());
 }
 
 Vocabulary::Found Vocabulary::FindInDisorder(TextView text) const {
@@ -77,15 +81,21 @@ Vocabulary::Found Vocabulary::FindInDisorder(TextView text) const {
 }
 
 void Vocabulary::FindEach(std::span<const TextView> texts, std::span<EntryId> found) const {
-    if (general->Ascending())
-        general->FindEach(texts, found);
-    else
-        std::fill(found.begin(), found.end(), kNoEntry);
-    if (general->Ascending() && added.empty())
+    if (!general->Ascending()) {
+        for (std::size_t i = 0; i < texts.size(); ++i)
+            found[i] = FindInDisorder(texts[i]).entry;
         return;
-    for (std::size_t i = 0; i < texts.size(); ++i)
-        if (found[i] == kNoEntry)
-            found[i] = Find(texts[i]).entry;
+    }
+    general->FindEach(texts, found);
+    if (added.empty())
+        return;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (found[i] != kNoEntry)
+            continue;
+        const std::size_t number = AddedBefore(texts[i]);
+        if (number < added.size() && TextOf(added[number].entry) == texts[i])
+            found[i] = added[number].entry;
+    }
 }
 
 Vocabulary::Run Vocabulary::WithPrefix(TextView prefix) const {

@@ -138,8 +138,9 @@ class Vocabulary {
         EntryId entry = 0;
     };
 
-    /// How many of the added entries stand before a position.
+    /// How many of the added entries stand before a position, and before a text.
     [[nodiscard]] std::size_t AddedBefore(std::size_t position) const;
+    [[nodiscard]] std::size_t AddedBefore(TextView text) const;
     [[nodiscard]] std::size_t PositionOf(EntryId generalEntry) const;
     /// The one search over the whole, which finds in disordered entries what it happens to come upon.
     [[nodiscard]] Found FindInDisorder(TextView text) const;
