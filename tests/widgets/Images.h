@@ -18,22 +18,24 @@ inline QImage Painted(QSize size, double scale, const std::function<void(QPainte
     return image;
 }
 
-/// The pixels, in device pixels, that are not of `ground`; null if all are.
-inline QRect InkOf(const QImage& image, QRgb ground = qRgb(255, 255, 255)) {
-    QRect ink;
+/// Where the pixels are, in device pixels, for which `chosen` holds, and how many.
+template <class Choice>
+std::pair<QRect, int> PixelsWhere(const QImage& image, Choice chosen) {
+    std::pair<QRect, int> found;
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
-            if (image.pixel(x, y) != ground)
-                ink |= QRect(x, y, 1, 1);
-    return ink;
+            if (chosen(image.pixel(x, y)))
+                found = {found.first | QRect(x, y, 1, 1), found.second + 1};
+    return found;
+}
+
+/// The place of all that is not of `ground`; null if all is.
+inline QRect InkOf(const QImage& image, QRgb ground = qRgb(255, 255, 255)) {
+    return PixelsWhere(image, [ground](QRgb pixel) { return pixel != ground; }).first;
 }
 
 inline int CountPixels(const QImage& image, QRgb color) {
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            count += image.pixel(x, y) == color ? 1 : 0;
-    return count;
+    return PixelsWhere(image, [color](QRgb pixel) { return pixel == color; }).second;
 }
 
 /// A one-coloured picture file.
