@@ -24,29 +24,13 @@ TEST(Conversion, EveryByteOfTheCodePageSurvivesQt) {
     EXPECT_EQ(ToQColor(0x123456), QColor(0x56, 0x34, 0x12));
 }
 
-TEST(Timers, ASlowTickMakesTheNextOneLateAndNeverABunch) {
-    using namespace std::chrono_literals;
-    QtClock clock;
-    QtTimerService timers(clock);
-    std::vector<Milliseconds> ticks;
-    const auto start = clock.Monotonic();
-    const auto timer = timers.Start(50ms, [&] {
-        ticks.push_back(clock.Monotonic() - start);
-        if (ticks.size() == 2)
-            clock.Sleep(180ms);
-    });
-    ASSERT_TRUE(Eventually([&] { return ticks.size() >= 6; }));
-    EXPECT_GE(ticks[0], 50ms);
-    for (std::size_t i = 1; i < ticks.size(); ++i)
-        EXPECT_GT(ticks[i] / 50ms, ticks[i - 1] / 50ms) << "two ticks for one point of the grid";
-}
-
-TEST(Timers, TicksGoOnInsideADialogOfATickAndEndWithTheirTimer) {
+TEST(Timers, TicksKeepTheirPaceAlsoInsideADialogOfATickAndEndWithTheirTimer) {
     using namespace std::chrono_literals;
     QtClock clock;
     QtTimerService timers(clock);
     int ticks = 0;
     bool wentOnInside = false;
+    const auto start = clock.Monotonic();
     std::unique_ptr<Timer> timer = timers.Start(10ms, [&] {
         if (++ticks == 1)
             wentOnInside = Eventually([&] { return ticks >= 3; });
@@ -54,14 +38,14 @@ TEST(Timers, TicksGoOnInsideADialogOfATickAndEndWithTheirTimer) {
             timer.reset();
     });
     EXPECT_TRUE(Eventually([&] { return !timer; }));
+    EXPECT_GE(clock.Monotonic() - start, 50ms) << "ticks came in a bunch";
     EXPECT_TRUE(wentOnInside);
-    PassTime(50);
-    EXPECT_EQ(ticks, 5);
     int shots = 0;
     const auto once = timers.After(1ms, [&] { ++shots; });
     timers.After(1ms, [&] { shots += 100; }).reset();
     PassTime(50);
     EXPECT_EQ(shots, 1);
+    EXPECT_EQ(ticks, 5);
 }
 
 TEST(Pump, WhatIsPostedAnywhereIsHandledInOrderAlsoInsideADialogOfAHandler) {
@@ -81,13 +65,6 @@ TEST(Pump, WhatIsPostedAnywhereIsHandledInOrderAlsoInsideADialogOfAHandler) {
     EXPECT_TRUE(Eventually([&] { return handled.size() == 3; }));
     EXPECT_TRUE(wentOnInside);
     EXPECT_EQ(handled, (std::vector<int>{1, 2, 3}));
-    {
-        const MessageQueue::Hold hold(queue);
-        queue.Post(Message::UM_CHAR, 4);
-        PassTime(20);
-        EXPECT_EQ(handled.size(), 3U);
-    }
-    EXPECT_TRUE(Eventually([&] { return handled.size() == 4; }));
 }
 
 TEST(Measures, AFontThatIsNotInstalledIsMeasuredWithAnother) {

@@ -93,40 +93,24 @@ void SetLayout(const std::string& layout) {
         std::abort();
 }
 
-class ServerKeyboard::Implementation {
-  public:
-    X11Connection connection;
-    std::uint8_t personsDevice = 0;
-
-    Implementation() {
-        const PersonsKeys ready(connection); // has agreed on the version of the input extension
-        const auto cookie = xcb_input_xi_query_device(connection.Get(), XCB_INPUT_DEVICE_ALL);
-        const auto reply = Owned(xcb_input_xi_query_device_reply(connection.Get(), cookie, nullptr));
-        for (auto device = xcb_input_xi_query_device_infos_iterator(reply.get()); device.rem > 0;
-             xcb_input_xi_device_info_next(&device)) {
-            const std::string name(xcb_input_xi_device_info_name(device.data), device.data->name_len);
-            if (device.data->type == XCB_INPUT_DEVICE_TYPE_SLAVE_KEYBOARD &&
-                name.find("XTEST") == std::string::npos)
-                personsDevice = static_cast<std::uint8_t>(device.data->deviceid);
-        }
+ServerKeyboard::ServerKeyboard() : connection(std::make_unique<X11Connection>()) {
+    const PersonsKeys ready(*connection); // has agreed on the version of the input extension
+    const auto cookie = xcb_input_xi_query_device(connection->Get(), XCB_INPUT_DEVICE_ALL);
+    const auto reply = Owned(xcb_input_xi_query_device_reply(connection->Get(), cookie, nullptr));
+    for (auto device = xcb_input_xi_query_device_infos_iterator(reply.get()); device.rem > 0;
+         xcb_input_xi_device_info_next(&device)) {
+        const std::string name(xcb_input_xi_device_info_name(device.data), device.data->name_len);
+        if (device.data->type == XCB_INPUT_DEVICE_TYPE_SLAVE_KEYBOARD &&
+            name.find("XTEST") == std::string::npos)
+            personsDevice = static_cast<std::uint8_t>(device.data->deviceid);
     }
-    void Send(int event, int keycode) const {
-        const auto first = xcb_get_extension_data(connection.Get(), &xcb_input_id)->first_event;
-        xcb_test_fake_input(connection.Get(), static_cast<std::uint8_t>(first + event),
-                            static_cast<std::uint8_t>(keycode), XCB_CURRENT_TIME, XCB_NONE, 0, 0,
-                            personsDevice);
-        connection.Synchronize();
-    }
-};
-
-ServerKeyboard::ServerKeyboard() : implementation(std::make_unique<Implementation>()) {
 }
 
 ServerKeyboard::~ServerKeyboard() = default;
 
 std::vector<int> ServerKeyboard::Down() const {
-    auto* connection = implementation->connection.Get();
-    const auto reply = Owned(xcb_query_keymap_reply(connection, xcb_query_keymap(connection), nullptr));
+    const auto reply =
+        Owned(xcb_query_keymap_reply(connection->Get(), xcb_query_keymap(connection->Get()), nullptr));
     std::vector<int> down;
     for (int keycode = 0; keycode < 256; ++keycode)
         if (reply->keys[keycode / 8] >> (keycode % 8) & 1)
@@ -135,26 +119,27 @@ std::vector<int> ServerKeyboard::Down() const {
 }
 
 std::vector<std::uint32_t> ServerKeyboard::Symbols() const {
-    auto* connection = implementation->connection.Get();
     constexpr std::uint8_t kFirst = 8;
     constexpr std::uint8_t kCount = 248;
-    const auto cookie = xcb_get_keyboard_mapping(connection, kFirst, kCount);
-    const auto reply = Owned(xcb_get_keyboard_mapping_reply(connection, cookie, nullptr));
+    const auto cookie = xcb_get_keyboard_mapping(connection->Get(), kFirst, kCount);
+    const auto reply = Owned(xcb_get_keyboard_mapping_reply(connection->Get(), cookie, nullptr));
     const auto* symbols = xcb_get_keyboard_mapping_keysyms(reply.get());
     return {symbols, symbols + xcb_get_keyboard_mapping_keysyms_length(reply.get())};
 }
 
+void ServerKeyboard::Send(int event, int keycode) const {
+    const auto first = xcb_get_extension_data(connection->Get(), &xcb_input_id)->first_event;
+    xcb_test_fake_input(connection->Get(), static_cast<std::uint8_t>(first + event),
+                        static_cast<std::uint8_t>(keycode), XCB_CURRENT_TIME, XCB_NONE, 0, 0, personsDevice);
+    connection->Synchronize();
+}
+
 void ServerKeyboard::PersonPresses(int keycode) const {
-    implementation->Send(XCB_INPUT_DEVICE_KEY_PRESS, keycode);
+    Send(XCB_INPUT_DEVICE_KEY_PRESS, keycode);
 }
 
 void ServerKeyboard::PersonReleases(int keycode) const {
-    implementation->Send(XCB_INPUT_DEVICE_KEY_RELEASE, keycode);
-}
-
-void ServerKeyboard::PersonTaps(int keycode) const {
-    PersonPresses(keycode);
-    PersonReleases(keycode);
+    Send(XCB_INPUT_DEVICE_KEY_RELEASE, keycode);
 }
 
 } // namespace ondrilo

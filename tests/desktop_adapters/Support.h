@@ -12,6 +12,8 @@
 
 namespace ondrilo {
 
+class X11Connection;
+
 /// Runs the event loop until the condition holds; false if it does not within some seconds.
 [[nodiscard]] bool Eventually(const std::function<bool()>& condition);
 /// Runs the event loop for a while.
@@ -58,13 +60,18 @@ class ServerKeyboard {
     /// A key of the person's own keyboard, not one that a program types.
     void PersonPresses(int keycode) const;
     void PersonReleases(int keycode) const;
-    void PersonTaps(int keycode) const;
+    void PersonTaps(int keycode) const {
+        PersonPresses(keycode);
+        PersonReleases(keycode);
+    }
 
     static constexpr int kShift = 50, kA = 38, kB = 56; ///< keycodes that the layouts of the tests share
 
   private:
-    class Implementation;
-    std::unique_ptr<Implementation> implementation;
+    void Send(int event, int keycode) const;
+
+    std::unique_ptr<X11Connection> connection;
+    std::uint8_t personsDevice = 0;
 };
 
 } // namespace ondrilo
