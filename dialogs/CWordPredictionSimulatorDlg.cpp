@@ -8,6 +8,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace ondrilo {
@@ -93,7 +94,7 @@ QWidget* CWordPredictionSimulatorDlg::CreateIndicators() {
     for (const auto label : simulator.IndicatorLabels()) {
         auto* value = new QLabel;
         value->setObjectName(QString("indicator_%1").arg(values.size()));
-        value->setAccessibleName(ToQString(label));
+        value->setAccessibleDescription(ToQString(label));
         value->setAlignment(Qt::AlignRight);
         value->setMinimumWidth(value->fontMetrics().horizontalAdvance(QString(kValueDigits, '0')));
         value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -191,7 +192,8 @@ void CWordPredictionSimulatorDlg::ShowProgress() {
     auto end = writtenText->textCursor();
     end.movePosition(QTextCursor::End);
     end.insertText(std::exchange(newText, {}));
-    writtenText->setTextCursor(end);
+    auto* scrollBar = writtenText->verticalScrollBar();
+    scrollBar->setValue(scrollBar->maximum());
     PaintWindows();
     showingTook = showing.elapsed();
     sinceShown.restart();

@@ -7,9 +7,17 @@
 
 namespace ondrilo {
 
+namespace {
+
+QString StartFolder() {
+    const auto documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QDir(documents).exists() ? documents : QDir::homePath();
+}
+
+} // namespace
+
 std::optional<std::filesystem::path> AskForTextFile(Desktop& desktop, QWidget* parent) {
-    QFileDialog chooser(parent, QObject::tr("Escolher Ficheiro de Texto"),
-                        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+    QFileDialog chooser(parent, QObject::tr("Escolher Ficheiro de Texto"), StartFolder(),
                         QObject::tr("Ficheiros de texto (*.txt);;Todos os ficheiros (*)"));
     chooser.setObjectName("textFileChooser");
     chooser.setFileMode(QFileDialog::ExistingFile);
