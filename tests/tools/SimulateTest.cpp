@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <iostream>
 #include <sstream>
 
@@ -10,6 +11,16 @@ namespace ondrilo {
 namespace {
 
 constexpr ToolOption kEncoding = {"--encoding", "NAME", ""};
+
+/// Takes what is printed, also when a command fails.
+struct CapturedOutput {
+    CapturedOutput() : former(std::cout.rdbuf(bytes.rdbuf())) {}
+    CapturedOutput(const CapturedOutput&) = delete;
+    CapturedOutput& operator=(const CapturedOutput&) = delete;
+    ~CapturedOutput() { std::cout.rdbuf(former); }
+    std::ostringstream bytes;
+    std::streambuf* former;
+};
 
 class Simulate : public testing::Test {
   protected:
@@ -27,12 +38,9 @@ class Simulate : public testing::Test {
                                      (texts.Path() / "texto.txt").string()});
         std::vector<ToolOption> options(kSimulateCommand.options.begin(), kSimulateCommand.options.end());
         options.push_back(kEncoding);
-        std::ostringstream out;
-        auto* const oldOut = std::cout.rdbuf(out.rdbuf());
-        const auto code = kSimulateCommand.run(Arguments(std::move(words), options));
-        std::cout.rdbuf(oldOut);
-        EXPECT_EQ(code, 0);
-        return out.str();
+        const CapturedOutput out;
+        EXPECT_EQ(kSimulateCommand.run(Arguments(std::move(words), options)), 0);
+        return out.bytes.str();
     }
 
     TemporaryFolder folder;
