@@ -3,6 +3,7 @@
 #include "app/ui/QtSessionWindows.h"
 #include "benchmarks/Measures.h"
 #include "platform/linux/PosixProgramStarter.h"
+#include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtMessageBoxes.h"
 #include "platform/qt/QtQueuePump.h"
@@ -131,13 +132,14 @@ class RunningProgram {
     PosixProgramStarter programs;
     QtMessageBoxes boxes{desktop};
     QtDialogs dialogs{desktop};
+    QtClipboard clipboard;
     QtTextMeasure textMeasure;
     QtPictures pictures{data};
     CMainFrame frame{queue, desktop, keys};
     QtSessionWindows windows{{frame, queue, timers, sounds, keys, data, pictures}};
     NullServices services;
-    CTessivorView view{{data, queue, clock, timers, desktop, keys, boxes, dialogs, sounds, programs,
-                        textMeasure, pictures, frame, windows},
+    CTessivorView view{{data, queue, clock, timers, desktop, keys, boxes, dialogs, clipboard, sounds,
+                        programs, textMeasure, pictures, frame, windows},
                        services.All()};
     QtQueuePump pump{queue, [this](const MessageEvent& event) {
                          view.Handle(event);
