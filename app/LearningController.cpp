@@ -33,7 +33,8 @@ LearningController::LearningController(CUserProfileSet& profiles, const Targets&
 }
 
 bool LearningController::IsOn() const {
-    return targets.Current() && profiles.Active().properties.IsOn(option::ADAPTACAO_UTILIZADOR);
+    return targets.Current() && !targets.Current()->IsPassword() &&
+           profiles.Active().properties.IsOn(option::ADAPTACAO_UTILIZADOR);
 }
 
 void LearningController::LearnWord() {

@@ -118,6 +118,9 @@ class CWordProcessor {
 
     virtual void DeleteCurrentWord() = 0;
     virtual void DeleteCurrentSentence() = 0;
+
+    /// The desktop says that what is written here is secret: nothing of it may be kept.
+    [[nodiscard]] virtual bool IsPassword() const { return false; }
 };
 
 } // namespace ondrilo

@@ -104,6 +104,10 @@ struct RecordingServices {
         void MenuSelected(int command) override { journal.Note("menu " + std::to_string(command)); }
     };
 
+    struct Targets : ExternalTargets {
+        std::unique_ptr<CWordProcessor> Create(Kind, WindowId) override { return std::move(next); }
+        std::unique_ptr<CWordProcessor> next; ///< of the next window; none otherwise
+    };
     struct Pictograms : PictogramWriter {
         void Insert(const COnScreenKeyData& key, TextView standsFor, CWordProcessor&) override {
             inserted.emplace_back(key.label, standsFor);
@@ -125,7 +129,7 @@ struct RecordingServices {
     Context context;
     Cooperation cooperation;
     Record userRecord;
-    ExternalTargets externalTargets;
+    Targets externalTargets;
     Pictograms pictograms;
 };
 

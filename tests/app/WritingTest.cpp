@@ -224,5 +224,25 @@ TEST_F(RunningSystem, PredictionsLeaveOutWhatTheProfileDoesNotWant) {
     EXPECT_EQ(Key(kSentenceKey).data.label, "");
 }
 
+TEST_F(RunningSystem, WhatIsSecretIsNotLearned) {
+    struct PasswordField : CInternalWordProcessor {
+        using CInternalWordProcessor::CInternalWordProcessor;
+        [[nodiscard]] bool IsPassword() const override { return true; }
+    };
+    StartWriting();
+    CKeyboard keyboard(keys);
+    auto surface = std::make_unique<FakeTextSurface>();
+    surface->ReplaceSelection("segredo ");
+    services.externalTargets.next =
+        std::make_unique<PasswordField>(std::move(surface), keyboard, desktop, queue);
+    desktop.MoveFocus(7);
+    Tick(6);
+    ASSERT_EQ(view->TextTargets().Current()->GetPreviousWord(), "segredo");
+    queue.Post(Message::UM_WORD_END);
+    Drain();
+    EXPECT_FALSE(view->Profiles().Active().dictionary.GetWord("segredo"));
+    desktop.MoveFocus(1);
+}
+
 } // namespace
 } // namespace ondrilo
