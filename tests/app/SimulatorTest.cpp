@@ -3,9 +3,9 @@
 namespace ondrilo {
 namespace {
 
-const Text kLocked =
-    Text("As alterações ao sistema estão bloqueadas! Este bloqueio pode ser retirado em Opções Gerais."_w);
-const Text kLearned = Text("As palavras e frases do utilizador foram incorporadas no dicionário."_w);
+constexpr TextView kLocked =
+    "As alterações ao sistema estão bloqueadas! Este bloqueio pode ser retirado em Opções Gerais."_w;
+constexpr TextView kLearned = "As palavras e frases do utilizador foram incorporadas no dicionário."_w;
 
 /// The system, and what is shown of a simulation.
 class Simulating : public RunningSystem, public SimulatorProgress {
