@@ -17,8 +17,10 @@ using testing::IsEmpty;
 using Kind = Lesson::Kind;
 
 const Lessons kFirst{{Kind::Word, "casa"}, {Kind::Word, "___"}, {Kind::WordPair, "___", "casa"}};
-const Lessons kSecond{{Kind::Word, Text("água"_w)}, {Kind::WordPair, "casa", Text("água"_w)}};
-const Lessons kSentence{{Kind::Sentence, Text("Casa\tcom\nágua."_w)}};
+constexpr TextView kWater = "água"_w;
+const Lessons kSecond{{Kind::Word, Text(kWater)}, {Kind::WordPair, "casa", Text(kWater)}};
+constexpr TextView kOddSentence = "Casa\tcom\nágua."_w;
+const Lessons kSentence{{Kind::Sentence, Text(kOddSentence)}};
 
 /// A person whose program may crash: what a run leaves behind is seen by the next.
 class LearningJournalTest : public testing::Test {
