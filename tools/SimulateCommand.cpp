@@ -61,8 +61,13 @@ fs::path CopyText(const Arguments& arguments, const fs::path& folder) {
     std::string_view bytes = file.bytes;
     if (bytes.starts_with(byteOrderMark))
         bytes.remove_prefix(byteOrderMark.size());
+    const auto text = arguments.FromTerminal(bytes);
+    // The figures of a text whose accents are lost look right and are not.
+    if (arguments.ToTerminal(text) != bytes)
+        std::cerr << "ondrilo-tool: some characters of " << path.string()
+                  << " were not understood; is it in the right --encoding?\n";
     const auto copy = folder / "texto.txt";
-    if (const auto saved = ReplaceFile(copy, arguments.FromTerminal(bytes)); !saved)
+    if (const auto saved = ReplaceFile(copy, text); !saved)
         throw std::runtime_error(ToUtf8(saved.problem));
     return copy;
 }
@@ -77,7 +82,7 @@ WordSimulationType TypeOf(const Arguments& arguments) {
 /// Prints the figures of each run, and writes its row.
 class Printer : public WordSimulationObserver {
   public:
-    explicit Printer(const Arguments& arguments) : arguments(arguments) {
+    explicit Printer(const Arguments& arguments) {
         if (const auto path = arguments.Value("--sim"))
             Check(results.Open(*path));
     }
@@ -89,7 +94,7 @@ class Printer : public WordSimulationObserver {
     void WordWritten(TextView, const WordSimulationFigures&) override {}
     void RunEnds(const WordSimulationFigures& figures) override {
         for (const auto& [label, value] : IndicatorsOf(figures))
-            std::cout << arguments.ToTerminal(label) << ' ' << value << '\n';
+            std::cout << ToUtf8(label) << ' ' << value << '\n';
         std::cout << std::flush;
         Check(results.Append(figures));
     }
@@ -100,7 +105,6 @@ class Printer : public WordSimulationObserver {
             throw std::runtime_error(ToUtf8(saved.problem));
     }
 
-    const Arguments& arguments;
     ResultsFile results;
     bool first = true;
 };
@@ -110,7 +114,7 @@ int Simulate(const Arguments& arguments) {
         throw UsageError("what is to be simulated: words");
     const auto type = TypeOf(arguments);
     const DataFolder data(arguments.Required("--data"));
-    const auto name = arguments.FromTerminal(arguments.Required("--profile"));
+    const auto name = FromUtf8(arguments.Required("--profile"));
     if (!fs::is_directory(data.Path()))
         throw std::runtime_error("there is no folder " + data.Path().string());
 
@@ -144,7 +148,7 @@ int Simulate(const Arguments& arguments) {
 const Command kSimulateCommand = {
     "simulate", "tells how much prediction saves a person on a text",
     "\"simulate words\" writes the text as an ideal person would, who takes a word from the list as soon as\n"
-    "it is there, and prints what that saved, for each run. Works on a copy of the data.",
+    "it is there, and prints what that saved, for each run, always in UTF-8. Works on a copy of the data.",
     kOptions, Simulate};
 
 } // namespace ondrilo
