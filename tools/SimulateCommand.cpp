@@ -66,7 +66,7 @@ fs::path CopyText(const Arguments& arguments, const fs::path& folder) {
     if (arguments.ToTerminal(text) != bytes)
         std::cerr << "ondrilo-tool: some characters of " << path.string()
                   << " were not understood; is it in the right --encoding?\n";
-    const auto copy = folder / "texto.txt";
+    auto copy = folder / "texto.txt";
     if (const auto saved = ReplaceFile(copy, text); !saved)
         throw std::runtime_error(ToUtf8(saved.problem));
     return copy;
