@@ -12,6 +12,7 @@
 #include "platform/MessageQueue.h"
 #include "platform/Programs.h"
 #include "platform/Sound.h"
+#include "profiles/OptionDialogs.h"
 
 namespace ondrilo {
 
@@ -25,6 +26,7 @@ struct Environment {
     KeyOutput& keys;
     MessageBoxes& boxes;
     Dialogs& dialogs;
+    OptionDialogs& optionDialogs;
     Clipboard& clipboard;
     SoundPlayer& sounds;
     ProgramStarter& programs;

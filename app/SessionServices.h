@@ -6,6 +6,7 @@
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
 #include "platform/Geometry.h"
+#include "platform/UserRecord.h"
 #include "speech/SpeechService.h"
 #include "targets/CWordProcessor.h"
 #include "text/Text.h"
@@ -68,15 +69,6 @@ class CooperativeSession {
     /// Reads the partner's suggestions and shows them on the keys.
     virtual void ShowHints() {}
     virtual void End() {}
-};
-
-/// The records of the configurator's work: dialogs and menu commands by their numbers.
-class UserRecord {
-  public:
-    virtual ~UserRecord() = default;
-    virtual void Open() {}
-    virtual void Close() {}
-    virtual void MenuSelected(int /*command*/) {}
 };
 
 /// Makes the picture of a pictogram key and puts it into the editor.

@@ -1,6 +1,7 @@
 #include "app/CTessivorApp.h"
 #include "app/CTessivorView.h"
 #include "app/ui/QtDialogs.h"
+#include "app/ui/QtOptionDialogs.h"
 #include "app/ui/QtSessionWindows.h"
 #include "app/ui/QuitSignals.h"
 #include "platform/linux/CanberraSoundPlayer.h"
@@ -45,11 +46,13 @@ int Run(const std::filesystem::path& dataFolder, QtDesktop& desktop, QtMessageBo
     PosixProgramStarter programs;
     QtTextMeasure textMeasure;
     QtPictures pictures(data);
-    QtDialogs dialogs(desktop);
     QtClipboard clipboard;
     CMainFrame frame(queue, desktop, keys);
     QtSessionWindows windows({frame, queue, timers, sounds, keys, data, pictures});
     NullServices services;
+    const DialogHost dialogHost{desktop, boxes, services.userRecord};
+    QtDialogs dialogs(dialogHost);
+    QtOptionDialogs optionDialogs(dialogHost);
 
     CTessivorView view({.dataFolder = data,
                         .queue = queue,
@@ -59,6 +62,7 @@ int Run(const std::filesystem::path& dataFolder, QtDesktop& desktop, QtMessageBo
                         .keys = keys,
                         .boxes = boxes,
                         .dialogs = dialogs,
+                        .optionDialogs = optionDialogs,
                         .clipboard = clipboard,
                         .sounds = sounds,
                         .programs = programs,

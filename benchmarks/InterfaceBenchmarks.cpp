@@ -1,5 +1,6 @@
 #include "app/CTessivorView.h"
 #include "app/ui/QtDialogs.h"
+#include "app/ui/QtOptionDialogs.h"
 #include "app/ui/QtSessionWindows.h"
 #include "benchmarks/Measures.h"
 #include "platform/linux/PosixProgramStarter.h"
@@ -131,15 +132,16 @@ class RunningProgram {
     FakeSounds sounds;
     PosixProgramStarter programs;
     QtMessageBoxes boxes{desktop};
-    QtDialogs dialogs{desktop};
+    NullServices services;
+    QtDialogs dialogs{{desktop, boxes, services.userRecord}};
+    QtOptionDialogs optionDialogs{{desktop, boxes, services.userRecord}};
     QtClipboard clipboard;
     QtTextMeasure textMeasure;
     QtPictures pictures{data};
     CMainFrame frame{queue, desktop, keys};
     QtSessionWindows windows{{frame, queue, timers, sounds, keys, data, pictures}};
-    NullServices services;
-    CTessivorView view{{data, queue, clock, timers, desktop, keys, boxes, dialogs, clipboard, sounds,
-                        programs, textMeasure, pictures, frame, windows},
+    CTessivorView view{{data, queue, clock, timers, desktop, keys, boxes, dialogs, optionDialogs, clipboard,
+                        sounds, programs, textMeasure, pictures, frame, windows},
                        services.All()};
     QtQueuePump pump{queue, [this](const MessageEvent& event) {
                          view.Handle(event);

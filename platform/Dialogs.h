@@ -1,9 +1,11 @@
 #pragma once
 
+#include "platform/EntryList.h"
 #include "platform/SimulatorDialog.h"
 #include "text/Text.h"
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -20,14 +22,25 @@ class MessageBoxes {
     [[nodiscard]] virtual Answer AskYesNoCancel(TextView question) = 0;
 };
 
-/// Dialogs that the logic asks for by purpose; each answers with plain values.
+/// Dialogs that the logic asks for by purpose; each answers with plain values. Nothing is the answer on
+/// Cancel.
 class Dialogs {
   public:
     virtual ~Dialogs() = default;
-    /// "Seleccionar Perfil de Utilizador": the chosen name, or nothing on Cancel.
+    /// "Seleccionar Perfil de Utilizador": the chosen name.
     [[nodiscard]] virtual std::optional<Text> ChooseProfile(const std::vector<Text>& names) = 0;
-    /// A text file that exists; nothing on Cancel.
+    /// "Novo Perfil de Utilizador": a name, without blanks at its ends, to which `objection` has none. An
+    /// objection is shown and the dialog stays open; the empty text is none.
+    [[nodiscard]] virtual std::optional<Text>
+    AskProfileName(const std::function<Text(TextView name)>& objection) = 0;
+    /// "Bloquear Alterações ao Sistema": what was typed, whether right or wrong.
+    [[nodiscard]] virtual std::optional<Text> AskPassword() = 0;
+    /// A text file that exists.
     [[nodiscard]] virtual std::optional<std::filesystem::path> ChooseTextFile() = 0;
+    /// A folder that exists.
+    [[nodiscard]] virtual std::optional<std::filesystem::path> ChooseFolder(TextView title) = 0;
+    /// Shows and changes the entries; false on Cancel. What was changed until then is not undone here.
+    [[nodiscard]] virtual bool EditEntries(EntryList& entries) = 0;
     /// "Simulador de Predição de Palavras"; returns when it is closed.
     virtual void SimulateWords(Simulator& simulator) = 0;
 };

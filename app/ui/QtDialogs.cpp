@@ -31,18 +31,34 @@ std::optional<Text> QtDialogs::ChooseProfile(const std::vector<Text>& names) {
     rows->addWidget(list);
     rows->addWidget(buttons);
 
-    if (RunDialog(dialog, desktop) != QDialog::Accepted || list->currentRow() < 0)
+    if (RunDialog(dialog, host.desktop) != QDialog::Accepted || list->currentRow() < 0)
         return std::nullopt;
     return names[static_cast<std::size_t>(list->currentRow())];
 }
 
 std::optional<std::filesystem::path> QtDialogs::ChooseTextFile() {
-    return AskForTextFile(desktop);
+    return AskForTextFile(host.desktop);
+}
+
+std::optional<Text> QtDialogs::AskProfileName(const std::function<Text(TextView)>&) {
+    return std::nullopt;
+}
+
+std::optional<Text> QtDialogs::AskPassword() {
+    return std::nullopt;
+}
+
+std::optional<std::filesystem::path> QtDialogs::ChooseFolder(TextView) {
+    return std::nullopt;
+}
+
+bool QtDialogs::EditEntries(EntryList&) {
+    return false;
 }
 
 void QtDialogs::SimulateWords(Simulator& simulator) {
-    CWordPredictionSimulatorDlg dialog(simulator, desktop);
-    RunDialog(dialog, desktop);
+    CWordPredictionSimulatorDlg dialog(simulator, host.desktop);
+    RunDialog(dialog, host.desktop);
 }
 
 } // namespace ondrilo

@@ -10,6 +10,7 @@
 #include "tests/support/FakeKeyOutput.h"
 #include "tests/support/FakeMeasures.h"
 #include "tests/support/FakeMessageBoxes.h"
+#include "tests/support/FakeOptionDialogs.h"
 #include "tests/support/FakeSessionWindows.h"
 #include "tests/support/FakeSounds.h"
 #include "tests/support/TemporaryFolder.h"
@@ -81,8 +82,8 @@ class RunningSystem : public testing::Test {
     void SetOptions(TextView options) const { folder.Write("generico.cfg", Text(kOptions).append(options)); }
     [[nodiscard]] Environment Surroundings() {
         const DataFolder data(folder.Path());
-        return {data,      queue,  clock,    timers,      desktop,        keys,  boxes,  dialogs,
-                clipboard, sounds, programs, textMeasure, pictureMeasure, frame, windows};
+        return {data,          queue,     clock,  timers,   desktop,     keys,           boxes, dialogs,
+                optionDialogs, clipboard, sounds, programs, textMeasure, pictureMeasure, frame, windows};
     }
     void Start() {
         view = std::make_unique<CTessivorView>(Surroundings(), services.All());
@@ -153,6 +154,7 @@ class RunningSystem : public testing::Test {
     FakeKeyOutput keys;
     FakeMessageBoxes boxes;
     FakeDialogs dialogs;
+    FakeOptionDialogs optionDialogs;
     FakeClipboard clipboard;
     FakeSounds sounds;
     FakePrograms programs;

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "platform/Desktop.h"
+#include "platform/Dialogs.h"
+#include "platform/UserRecord.h"
+
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QVBoxLayout>
+
+namespace ondrilo {
+
+/// What dialogs need of the program around them. All of it outlives every dialog.
+struct DialogHost {
+    Desktop& desktop;
+    MessageBoxes& boxes;
+    UserRecord& record;
+};
+
+/// The numbers under which the configurator's records know the dialogs.
+enum class DialogNumber {
+    About = 100,
+    ChooseProfile = 130,
+    NewProfile,
+    Password,
+    SystemOptions,
+    ProfileOptions,
+    NewTimeSpan,
+    Words,
+    Sentences,
+    Abbreviations,
+    WordSimulator,
+};
+
+/// The base of all dialogs: the person's content above a row of buttons, at whose left end there is room for
+/// a small button of the records. Recorded when it opens and closes, top-most, never larger than the screen;
+/// the focus goes back to where it was.
+class BaseDialog : public QDialog {
+    Q_OBJECT
+
+  public:
+    /// `objectName` by which tests and assistive programs know it.
+    BaseDialog(const DialogHost& host, DialogNumber number, const char* objectName, const QString& title);
+
+    /// Shows the dialog and waits for its end; true on OK.
+    [[nodiscard]] bool Run();
+
+  protected:
+    /// Fills the room above the buttons.
+    void SetContent(QWidget* content);
+    /// "OK" and "Cancelar" at first, with the object names "okButton" and "cancelButton". OK calls TryAccept.
+    [[nodiscard]] QDialogButtonBox& Buttons() { return *buttons; }
+    /// Closes with OK if what was chosen may stand; tells what is in the way otherwise.
+    virtual void TryAccept() { accept(); }
+
+    DialogHost host;
+
+  private:
+    DialogNumber number;
+    QVBoxLayout* rows = new QVBoxLayout(this);
+    QDialogButtonBox* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+};
+
+} // namespace ondrilo
