@@ -8,6 +8,8 @@
 /// their expansion) and what the entries belong to.
 namespace ondrilo {
 
+enum class EntryListKind { Words, Sentences, Abbreviations };
+
 struct ListedEntry {
     Text name;
     Text value;
@@ -32,6 +34,7 @@ struct EntryListTexts {
 class EntryList {
   public:
     virtual ~EntryList() = default;
+    [[nodiscard]] virtual EntryListKind Kind() const = 0;
     [[nodiscard]] virtual const EntryListTexts& Texts() const = 0;
     /// True if values are numbers from 1 to 1,000,000; otherwise they are free text.
     [[nodiscard]] virtual bool HasNumbers() const = 0;
@@ -39,6 +42,11 @@ class EntryList {
     [[nodiscard]] virtual std::vector<ListedEntry> Entries() const = 0;
     /// The form in which a typed name is kept: trimmed, and folded where the list does so.
     [[nodiscard]] virtual Text Normalized(TextView typed) const = 0;
+    /// What tells entries apart: names with the same key are one entry.
+    [[nodiscard]] virtual Text Key(TextView name) const { return Text(name); }
+    /// Most characters of a name, and of the value of `name`, that outlive a visit to the file.
+    [[nodiscard]] virtual std::size_t NameLimit() const = 0;
+    [[nodiscard]] virtual std::size_t ValueLimit(TextView name) const = 0;
     /// A name that is not listed yet; gives the value that it starts with.
     virtual Text Add(TextView name) = 0;
     virtual void Change(TextView name, TextView value) = 0;

@@ -5,11 +5,6 @@
 #include <algorithm>
 
 namespace ondrilo {
-namespace {
-
-constexpr std::size_t kLineLimit = 79;
-
-} // namespace
 
 CAbbreviationExpansionSet::~CAbbreviationExpansionSet() {
     (void)Save();

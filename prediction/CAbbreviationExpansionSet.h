@@ -16,6 +16,9 @@ namespace ondrilo {
 /// is written in the order of a fixed hash, so that it stays stable between runs.
 class CAbbreviationExpansionSet {
   public:
+    /// Most characters of a line of the file: abbreviation, one blank, expansion.
+    static constexpr std::size_t kLineLimit = 79;
+
     CAbbreviationExpansionSet() = default;
     CAbbreviationExpansionSet(const CAbbreviationExpansionSet&) = delete;
     CAbbreviationExpansionSet& operator=(const CAbbreviationExpansionSet&) = delete;

@@ -6,14 +6,14 @@ namespace ondrilo {
 namespace {
 
 constexpr SideRules kWordRules{{999, 511, false},
-                               500,
+                               CDictionary::kLongestUserWord + 1,
                                "Erro na abertura do ficheiro de palavras geral"_w,
                                "Erro na abertura do ficheiro dos pares de palavras geral"_w,
                                "Erro na abertura do ficheiro de palavras do utilizador"_w,
                                "Erro na abertura do ficheiro de pares de palavras do utilizador."_w};
 
 constexpr SideRules kSentenceRules{{1499, 1007, true},
-                                   1000,
+                                   CDictionary::kLongestUserSentence + 1,
                                    "Erro na abertura do ficheiro de frases"_w,
                                    "Erro na abertura do ficheiro dos pares de frases geral"_w,
                                    "Erro na abertura do ficheiro de frases do utilizador"_w,

@@ -114,6 +114,8 @@ class CDictionary {
 
     [[nodiscard]] int WordCount() const { return static_cast<int>(words.Entries().Count()); }
     [[nodiscard]] int SentenceCount() const { return static_cast<int>(sentences.Entries().Count()); }
+    /// Longer ones are not taken in from the person, in characters.
+    static constexpr std::size_t kLongestUserWord = 499, kLongestUserSentence = 999;
     [[nodiscard]] static int WordCapacity() { return static_cast<int>(Vocabulary::kCapacity); }
     [[nodiscard]] const VocabularyTotals& WordTotals() const { return words.Totals(); }
     [[nodiscard]] const VocabularyTotals& SentenceTotals() const { return sentences.Totals(); }
