@@ -1,9 +1,11 @@
 #include "dialogs/BaseDialog.h"
 
+#include "dialogs/ScrolledContent.h"
 #include "platform/qt/FocusReturn.h"
 
 #include <QPushButton>
 #include <QScreen>
+#include <QStyle>
 
 namespace ondrilo {
 
@@ -20,19 +22,39 @@ BaseDialog::BaseDialog(const DialogHost& host, DialogNumber number, const char* 
     cancel->setText(tr("Cancelar"));
     connect(buttons, &QDialogButtonBox::accepted, this, [this] { TryAccept(); });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    rows->addWidget(buttons);
+    lastRow->addWidget(buttons, 1);
+    rows->addLayout(lastRow);
 }
 
 void BaseDialog::SetContent(QWidget* content) {
-    rows->insertWidget(0, content, 1);
+    if (auto* layout = content->layout())
+        layout->setContentsMargins({});
+    rows->insertWidget(0, new ScrolledContent(content), 1);
 }
 
 bool BaseDialog::Run() {
-    setMaximumSize(screen()->availableSize());
     host.record.DialogOpened(static_cast<int>(number));
     const bool accepted = RunDialog(*this, host.desktop) == Accepted;
     host.record.DialogClosed(static_cast<int>(number));
     return accepted;
+}
+
+void BaseDialog::setVisible(bool visible) {
+    if (visible && !testAttribute(Qt::WA_Resized)) {
+        // The window manager adds a caption.
+        const auto most = screen()->availableSize() -
+                          QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this));
+        setMaximumSize(most);
+        // Qt on its own would scroll in two thirds of the screen.
+        resize(sizeHint().boundedTo(most));
+    }
+    QDialog::setVisible(visible);
+}
+
+void BaseDialog::Refuse(TextView reason, QLineEdit& field) {
+    host.boxes.Show(reason);
+    field.setFocus();
+    field.selectAll();
 }
 
 } // namespace ondrilo

@@ -6,6 +6,8 @@
 
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QLineEdit>
 #include <QVBoxLayout>
 
 namespace ondrilo {
@@ -33,8 +35,9 @@ enum class DialogNumber {
 };
 
 /// The base of all dialogs: the person's content above a row of buttons, at whose left end there is room for
-/// a small button of the records. Recorded when it opens and closes, top-most, never larger than the screen;
-/// the focus goes back to where it was.
+/// a small button of the records. Recorded when it opens and closes, top-most, as large as its content but
+/// never larger than the screen, where the content scrolls; over the dialog that opened it, if any; the focus
+/// goes back to where it was. Escape and closing the window cancel.
 class BaseDialog : public QDialog {
     Q_OBJECT
 
@@ -44,6 +47,7 @@ class BaseDialog : public QDialog {
 
     /// Shows the dialog and waits for its end; true on OK.
     [[nodiscard]] bool Run();
+    void setVisible(bool visible) override;
 
   protected:
     /// Fills the room above the buttons.
@@ -52,12 +56,15 @@ class BaseDialog : public QDialog {
     [[nodiscard]] QDialogButtonBox& Buttons() { return *buttons; }
     /// Closes with OK if what was chosen may stand; tells what is in the way otherwise.
     virtual void TryAccept() { accept(); }
+    /// Tells what is in the way of OK, and goes back to the text that is.
+    void Refuse(TextView reason, QLineEdit& field);
 
     DialogHost host;
 
   private:
     DialogNumber number;
     QVBoxLayout* rows = new QVBoxLayout(this);
+    QHBoxLayout* lastRow = new QHBoxLayout;
     QDialogButtonBox* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
 };
 

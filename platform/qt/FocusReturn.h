@@ -6,11 +6,12 @@
 
 namespace ondrilo {
 
-/// For as long as a dialog is open: remembers which window of the desktop had the focus and gives it back at
-/// the end. Without that, closing a dialog leaves nobody focused and what the person types is lost.
+/// For as long as a dialog is open: remembers which window of the desktop had the focus before (0: none) and
+/// gives it back at the end. Without that, closing a dialog leaves nobody focused and what the person types
+/// is lost.
 class [[nodiscard]] FocusReturn {
   public:
-    explicit FocusReturn(Desktop& desktop) : desktop(desktop), before(desktop.ForegroundWindow()) {}
+    FocusReturn(Desktop& desktop, WindowId before) : desktop(desktop), before(before) {}
     FocusReturn(const FocusReturn&) = delete;
     FocusReturn& operator=(const FocusReturn&) = delete;
     ~FocusReturn() {
@@ -24,7 +25,8 @@ class [[nodiscard]] FocusReturn {
 };
 
 /// Runs a dialog top-most with the focus in it, whatever the main window does, and returns the focus after.
-/// The result is that of QDialog::exec.
+/// It stands over the dialog that is open already, if any, and goes back there. The result is that of
+/// QDialog::exec.
 int RunDialog(QDialog& dialog, Desktop& desktop);
 
 } // namespace ondrilo
