@@ -8,6 +8,10 @@ namespace {
 /// Time that the sources of the context get for their first readings.
 constexpr Milliseconds kFirstReadings{20'000};
 
+bool IsOnScreenKey(Message message) {
+    return message == Message::UM_KEY_PRESS || message == Message::UM_SCAN_KEY_SELECTED;
+}
+
 } // namespace
 
 CTessivorView::CTessivorView(const Environment& environment, const SessionServices& services)
@@ -47,8 +51,13 @@ CTessivorView::CTessivorView(const Environment& environment, const SessionServic
       router(userProfiles, targets, keyboard, predictionKeys, specialKeys, keySelection, selections,
              abbreviations, speech, learning, preview, sender, scanning, placement, chrome, countdowns,
              writingClock, events, state, services),
-      menuController(environment, userProfiles, systemOptions, keyboard, session, cycle, chrome, countdowns,
-                     events, services) {
+      profileController(environment, userProfiles, session, logging, cycle, keyboardSimulator.keySet, events,
+                        services),
+      vocabulary(environment, userProfiles, predictions, cycle), bulkLearning(environment, userProfiles),
+      systemOptionsController(environment, userProfiles, systemOptions, placement, events, services),
+      simulators(environment, userProfiles, cycle),
+      menuController(environment, systemOptions, keyboard, profileController, vocabulary, bulkLearning,
+                     systemOptionsController, simulators, chrome, countdowns, services) {
     session.SetClock(clock);
     environment.frame.SetListener(this);
 }
@@ -82,8 +91,12 @@ Text CTessivorView::StartProfile() {
 }
 
 void CTessivorView::Handle(const MessageEvent& event) {
-    if (session.IsRunning())
-        router.Handle(event);
+    if (!session.IsRunning())
+        return;
+    // Scanning goes on behind a dialog, but nothing there may change what the dialog is about.
+    if (menuController.IsRunning() && IsOnScreenKey(event.message))
+        return;
+    router.Handle(event);
 }
 
 void CTessivorView::OnActivateView() {

@@ -72,6 +72,11 @@ class CTessivorView : private FrameWindowListener {
     CommandController commandController;
     KeySelection keySelection;
     InputRouter router;
+    ProfileController profileController;
+    VocabularyController vocabulary;
+    BulkLearningController bulkLearning;
+    SystemOptionsController systemOptionsController;
+    SimulatorController simulators;
     MenuController menuController;
 };
 

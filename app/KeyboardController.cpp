@@ -38,9 +38,19 @@ void KeyboardController::LoadKeyboard(TextView name) {
     placement.LayOut();
 }
 
-void KeyboardController::Announce() {
+void KeyboardController::Reopen() {
+    CloseKeyboard();
+    LoadKeyboard(profiles.Active().properties.activeKeyboardName);
+    ShowStates();
+}
+
+void KeyboardController::ShowStates() {
     sender.ShowModifiers();
     ShowLoggingState();
+}
+
+void KeyboardController::Announce() {
+    ShowStates();
     speech.SpeakText(keyboard.Description());
 }
 

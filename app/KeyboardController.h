@@ -24,12 +24,15 @@ class KeyboardController {
     void Announce();
     /// Asks whether changes are to be kept, without a way back.
     void CloseKeyboard();
+    /// The active keyboard of the profile, with the options as they are now.
+    void Reopen();
     /// Goes on with the keyboard that a key links to, for this session only.
     void FollowKeyboardLink(COnScreenKeyIdentifier key, const ActionOrigin& origin);
     /// Lights the keys that turn the event log on and off.
     void ShowLoggingState();
 
   private:
+    void ShowStates();
     [[nodiscard]] bool WantsToKeepChanges();
 
     MessageQueue& queue;

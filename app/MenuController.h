@@ -2,46 +2,48 @@
 
 #include "app/BulkLearningController.h"
 #include "app/Countdown.h"
-#include "app/SessionController.h"
+#include "app/MenuCommands.h"
+#include "app/ProfileController.h"
 #include "app/SimulatorController.h"
+#include "app/SystemOptionsController.h"
+#include "app/VocabularyController.h"
 #include "app/WindowChrome.h"
-#include "profiles/CSystemOptions.h"
 
 namespace ondrilo {
 
-/// Entries of the main window's menu, by their numbers.
-namespace menu {
-inline constexpr int LearnFromFile = 32908, LearnFromClipboard = 32909, OpenProfile = 32914,
-                     SimulateWords = 32940, DisableMenu = 32947, HideMenuAndBars = 32951, Quit = 57665;
-} // namespace menu
-
-/// Runs the commands of the menu. While one runs, the context does not change the profile.
+/// Runs the commands of the menu, one at a time: what is locked or in the way of keyboard editing is refused,
+/// and while one runs, the context does not change the profile.
 class MenuController {
   public:
-    MenuController(const Environment& environment, CUserProfileSet& profiles,
-                   const CSystemOptions& systemOptions, const COnScreenKeyboard& keyboard,
-                   SessionController& session, PredictionCycle& cycle, WindowChrome& chrome,
-                   Countdowns& countdowns, EventWriter& events, const SessionServices& services);
+    MenuController(const Environment& environment, const CSystemOptions& systemOptions,
+                   const COnScreenKeyboard& keyboard, ProfileController& profiles,
+                   VocabularyController& vocabulary, BulkLearningController& bulkLearning,
+                   SystemOptionsController& systemOptionsController, SimulatorController& simulators,
+                   WindowChrome& chrome, Countdowns& countdowns, const SessionServices& services);
 
-    void Execute(int command);
+    /// `number` is one of FindMenuCommand.
+    void Execute(int number);
+    /// True while a command is at work, with its dialogs.
+    [[nodiscard]] bool IsRunning() const { return running; }
 
   private:
-    void OpenProfile();
-    /// False, and told, while changes of the system are locked.
-    [[nodiscard]] bool MayChangeSystem();
+    /// False, and told, if the command is refused as things are.
+    [[nodiscard]] bool IsAllowed(const MenuCommand& command);
+    void Run(int number);
 
     FrameWindow& frame;
     MessageBoxes& boxes;
-    CUserProfileSet& profiles;
     const CSystemOptions& systemOptions;
     const COnScreenKeyboard& keyboard;
-    SessionController& session;
+    ProfileController& profiles;
+    VocabularyController& vocabulary;
+    BulkLearningController& bulkLearning;
+    SystemOptionsController& systemOptionsController;
+    SimulatorController& simulators;
     WindowChrome& chrome;
     Countdowns& countdowns;
-    EventWriter& events;
     SessionServices services;
-    BulkLearningController bulkLearning;
-    SimulatorController simulators;
+    bool running = false;
 };
 
 } // namespace ondrilo

@@ -113,9 +113,49 @@ void SessionController::ChangeProfile(TextView name, bool withNotice) {
     StopSession();
     const auto notice = withNotice ? ShowNotice(windows, desktop, kLoadingProfileNotice) : nullptr;
     profiles.Open(profile);
+    StartWithOwnKeyboard();
+}
+
+void SessionController::CreateProfile(TextView name) {
+    StopSession();
+    profiles.CreateProfile(name);
+    StartWithOwnKeyboard();
+}
+
+void SessionController::StartWithOwnKeyboard() {
     auto& properties = profiles.Active().properties;
     properties.activeKeyboardName = properties.Get(option::NOME_TECLADO);
     StartSession();
+}
+
+void SessionController::ApplyOptions(const CUserProfileProperties& before) {
+    const auto changed = [&](auto... options) {
+        return ((before.Get(options) != Options().Get(options)) || ...);
+    };
+    const WaitCursor wait(frame);
+    if (changed(option::REGISTAR_EVENTOS))
+        Options().IsOn(option::REGISTAR_EVENTOS) ? logging.StartLog() : logging.EndLog();
+    if (changed(option::NOME_SINTETIZADOR_FALA))
+        SelectVoice();
+    if (changed(option::AGENTE_ACTIVO, option::NOME_AGENTE))
+        ReplaceAgent(before);
+    if (changed(option::INICIAR_JANELA_MAXIMIZADA, option::INICIAR_JANELA_MINIMIZADA,
+                option::POSICAO_INICIAL_JANELA_X, option::POSICAO_INICIAL_JANELA_Y))
+        placement.SetUpWindow();
+    placement.ShowBackground();
+    targetController.ApplyOptions();
+    if (changed(option::NOME_TECLADO))
+        profiles.Active().properties.activeKeyboardName = Options().Get(option::NOME_TECLADO);
+    keyboards.Reopen();
+    CreatePreview();
+    placement.RefreshTitle();
+    frame.Redraw();
+}
+
+void SessionController::ReplaceAgent(const CUserProfileProperties& before) {
+    if (before.IsOn(option::AGENTE_ACTIVO))
+        services.agent.Stop();
+    StartAgent();
 }
 
 } // namespace ondrilo

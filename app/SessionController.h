@@ -27,12 +27,19 @@ class SessionController {
     void StopSession();
     /// `withNotice`: a notice stands while the new profile loads.
     void ChangeProfile(TextView name, bool withNotice = false);
+    /// Makes a new profile and goes over to it.
+    void CreateProfile(TextView name);
+    /// Options of the active profile changed while the session runs: what shows them follows. The text that
+    /// the person has written stays.
+    void ApplyOptions(const CUserProfileProperties& before);
     /// False from the first step of an end on, and between two sessions.
     [[nodiscard]] bool IsRunning() const { return running; }
 
   private:
+    void StartWithOwnKeyboard();
     void SelectVoice();
     void StartAgent();
+    void ReplaceAgent(const CUserProfileProperties& before);
     void CreatePreview();
     [[nodiscard]] const CUserProfileProperties& Options() const { return profiles.Active().properties; }
 

@@ -35,6 +35,13 @@ class GpsSource {
     virtual ~GpsSource() = default;
     virtual void Start(TextView /*port*/) {}
     virtual void Stop() {}
+    /// The ports that the receiver may be at.
+    [[nodiscard]] virtual std::vector<Text> Ports() const {
+        std::vector<Text> ports;
+        for (int number = 1; number <= 20; ++number)
+            ports.push_back("com" + std::to_string(number));
+        return ports;
+    }
     [[nodiscard]] virtual bool IsActive() const { return false; }
 };
 
@@ -43,7 +50,10 @@ class BluetoothSource {
     virtual ~BluetoothSource() = default;
     /// Starts to look for the tags of all profiles.
     virtual void Start() {}
+    /// Looks for them in the way of that name instead.
+    virtual void StartMechanism(TextView /*name*/) {}
     virtual void Stop() {}
+    [[nodiscard]] virtual std::vector<Text> Mechanisms() const { return {Text("Inquérito"_w)}; }
 };
 
 /// Chooses the active profile from time, place and tags.

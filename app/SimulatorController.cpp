@@ -1,5 +1,7 @@
 #include "app/SimulatorController.h"
 
+#include "app/TopMostPause.h"
+
 namespace ondrilo {
 namespace {
 
@@ -32,9 +34,10 @@ SimulatorController::SimulatorController(const Environment& environment, CUserPr
 }
 
 void SimulatorController::SimulateWords() {
-    environment.frame.SetTopMost(false);
-    environment.dialogs.SimulateWords(*this);
-    environment.frame.SetTopMost(true);
+    {
+        const TopMostPause pause(environment.frame);
+        environment.dialogs.SimulateWords(*this);
+    }
     cycle.RunPrediction();
 }
 

@@ -35,10 +35,28 @@ void TargetController::CreateInternalEditor() {
     if (!editor->Create())
         return;
     editor->SetWidth(frame.ClientSize().width);
-    editor->SetHeight(profile.Get(option::ALTURA_EDITOR_MENSAGENS));
-    editor->SetFontName(profile.Get(option::TIPO_LETRA));
-    editor->SetFontSize(profile.Get(option::TAMANHO_LETRAS_PALAVRAS_PREDITAS));
     targets.SetInternal(std::move(editor));
+    DressEditor();
+}
+
+void TargetController::DressEditor() {
+    const auto& profile = profiles.Active().properties;
+    auto& editor = *targets.Internal();
+    editor.SetHeight(profile.Get(option::ALTURA_EDITOR_MENSAGENS));
+    editor.SetFontName(profile.Get(option::TIPO_LETRA));
+    editor.SetFontSize(profile.Get(option::TAMANHO_LETRAS_PALAVRAS_PREDITAS));
+}
+
+void TargetController::ApplyOptions() {
+    const bool wanted = profiles.Active().properties.IsOn(option::PROCESSADOR_TEXTO_INTERNO);
+    if (wanted && targets.Internal()) {
+        DressEditor();
+    } else if (wanted != (targets.Internal() != nullptr)) {
+        targets.Release();
+        CreateInternalEditor();
+        countdowns.target.Restart();
+    }
+    specialKeys.MapSpecialKeys();
 }
 
 void TargetController::StartFollowing() {

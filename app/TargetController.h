@@ -20,6 +20,8 @@ class TargetController {
 
     /// The internal editor, if the profile has one.
     void CreateInternalEditor();
+    /// The options changed while a session runs: editor and special keys follow.
+    void ApplyOptions();
     /// From here on the focus is followed; no target is in use yet.
     void StartFollowing();
     void StopFollowing();
@@ -30,6 +32,7 @@ class TargetController {
     void OnExposed();
 
   private:
+    void DressEditor();
     void OnFocusChange();
     void AttachTarget();
     void AttachInternal();

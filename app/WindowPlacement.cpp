@@ -135,6 +135,10 @@ void WindowPlacement::SetUpWindow() {
         frame.MoveTo(
             {Coordinate(option::POSICAO_INICIAL_JANELA_X), Coordinate(option::POSICAO_INICIAL_JANELA_Y)});
     }
+    ShowBackground();
+}
+
+void WindowPlacement::ShowBackground() {
     WindowBackground background;
     if (const auto& picture = Options().Get(option::IMAGEM_FUNDO); !picture.empty())
         background.picture = PictureFile(profiles.Folder(), picture);

@@ -23,6 +23,8 @@ class WindowPlacement {
     void RefreshTitle();
     /// Title, order, state, place and background for a session that begins.
     void SetUpWindow();
+    /// The picture or the fill behind editor and keyboard.
+    void ShowBackground();
     /// The session ended: an empty view.
     void ClearBackground();
 

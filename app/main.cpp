@@ -7,6 +7,7 @@
 #include "platform/linux/CanberraSoundPlayer.h"
 #include "platform/linux/FlockInstanceLock.h"
 #include "platform/linux/PosixProgramStarter.h"
+#include "platform/qt/PortugueseTexts.h"
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtDesktop.h"
@@ -88,6 +89,8 @@ int Main(int count, char** words) {
     // Keys and text must be there for assistive programs that start after this one, too.
     qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
     const QApplication application(count, words);
+    PortugueseTexts texts;
+    QApplication::installTranslator(&texts);
     // Numbers in files have a point, whatever the language.
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName("ondrilo");

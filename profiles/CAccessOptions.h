@@ -17,16 +17,19 @@ namespace access_option {
 using enum AccessOption;
 } // namespace access_option
 
-/// A line of the file, with the range of its value.
+/// A line of the file, with the range of its value and the texts of its control in the options dialog.
 struct AccessOptionRow {
     TextView key;
     int least;
     int most;
-    int step; ///< values are multiples of it
+    int step;           ///< values are multiples of it
+    TextView label;     ///< ends with a colon
+    TextView unit;      ///< behind the number
+    TextView leastName; ///< what `least` is called in place of the number; empty if it has no name
 };
 /// By the values of AccessOption.
 inline constexpr AccessOptionRow kAccessOptions[] = {
-    {"TEMPO_PERMANENCIA", 0, 10'000, 100},
+    {"TEMPO_PERMANENCIA", 0, 10'000, 100, "Permanência do Ponteiro Para Premir:"_w, " ms", "Desligada"},
 };
 
 /// How a person reaches the keys, in a file beside the profile's options, "<name>.acs", "KEY value" a line.

@@ -5,6 +5,11 @@
 #include <utility>
 
 namespace ondrilo {
+namespace {
+
+constexpr TextView kPassword = "$Kalvimo7R$";
+
+} // namespace
 
 void CSystemOptions::Set(IntegerSystemOption option, int value) {
     integers[static_cast<std::size_t>(option)] = value;
@@ -24,6 +29,20 @@ std::vector<Text> CSystemOptions::GetPriorities() {
 void CSystemOptions::SetPriorities(std::vector<Text> names) {
     changed = true;
     priorities = std::move(names);
+}
+
+bool CSystemOptions::PassesLock(Dialogs& dialogs, MessageBoxes& boxes) {
+    const auto typed = dialogs.AskPassword();
+    if (typed && *typed != kPassword)
+        boxes.Show("Senha incorrecta!");
+    return typed == kPassword;
+}
+
+bool CSystemOptions::UnlockChanges(Dialogs& dialogs, MessageBoxes& boxes) {
+    const bool passed = PassesLock(dialogs, boxes);
+    if (passed)
+        Set(system_option::ALTERACOES_SISTEMA, 1);
+    return passed;
 }
 
 void CSystemOptions::Load(const std::filesystem::path& path) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Dialogs.h"
 #include "platform/FileStore.h"
 
 #include <array>
@@ -75,6 +76,11 @@ class CSystemOptions {
     /// The profiles that context adaptation prefers, best first. Reading them counts as a change too.
     [[nodiscard]] std::vector<Text> GetPriorities();
     void SetPriorities(std::vector<Text> names);
+
+    /// Asks for the password of the lock on changes and tells of a wrong one; true if it was given.
+    [[nodiscard]] static bool PassesLock(Dialogs& dialogs, MessageBoxes& boxes);
+    /// Allows changes of the system if the password is given; true then.
+    bool UnlockChanges(Dialogs& dialogs, MessageBoxes& boxes);
 
     /// Remembers `path`; an absent file changes nothing and is no error.
     void Load(const std::filesystem::path& path);

@@ -2,14 +2,7 @@
 
 #include "profiles/OptionLines.h"
 
-#include <algorithm>
-
 namespace ondrilo {
-
-const ProfileOption* FindProfileOption(TextView key) {
-    const auto found = std::ranges::find(kProfileOptions, key, &ProfileOption::key);
-    return found == kProfileOptions.end() ? nullptr : &*found;
-}
 
 CUserProfileProperties::CUserProfileProperties() {
     for (const auto& option : kProfileOptions) {

@@ -14,6 +14,7 @@ namespace ondrilo {
 enum class OptionKind {
     Switch,     ///< on or off; any value but 0 is on
     Number,     ///< a 32-bit integer
+    Ticks,      ///< milliseconds that ticks are counted up to: what is no multiple of a tick never comes
     Color,      ///< 0x00BBGGRR, in decimal
     Real,       ///< six decimals in the file
     Text,       ///< one word: what follows a blank does not survive the file
@@ -58,7 +59,6 @@ inline constexpr std::size_t kTextOptions =
     }
         .size();
 
-inline constexpr int kLeastInteger = std::numeric_limits<int>::min();
 inline constexpr int kMostInteger = std::numeric_limits<int>::max();
 
 /// One row of the table. `index` is the value of the row's handle among the handles of its type.
@@ -73,6 +73,8 @@ struct ProfileOption {
 
     [[nodiscard]] constexpr bool IsInteger() const { return kind <= OptionKind::Color; }
     [[nodiscard]] constexpr bool IsText() const { return kind >= OptionKind::Text; }
+    /// Values are multiples of it.
+    [[nodiscard]] constexpr int Step() const { return kind == OptionKind::Ticks ? 100 : 1; }
 };
 
 /// All rows in the order of the file.
@@ -88,5 +90,14 @@ inline constexpr std::array<ProfileOption, kIntegerOptions + kRealOptions + kTex
 
 /// The row of a key, or null for a word that is no key. Case counts.
 [[nodiscard]] const ProfileOption* FindProfileOption(TextView key);
+
+/// The row of a handle.
+[[nodiscard]] const ProfileOption& RowOf(IntegerOption option);
+[[nodiscard]] const ProfileOption& RowOf(RealOption option);
+[[nodiscard]] const ProfileOption& RowOf(TextOption option);
+
+/// `value` or, if it is no multiple of `step`, the multiple next to it; `least` for one below 0, which
+/// nothing counts up to.
+[[nodiscard]] int OnStep(int value, int step, int least);
 
 } // namespace ondrilo

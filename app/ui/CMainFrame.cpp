@@ -1,5 +1,6 @@
 #include "app/ui/CMainFrame.h"
 
+#include "app/MenuCommands.h"
 #include "app/ui/MainMenu.h"
 #include "platform/qt/FocusReturn.h"
 #include "platform/qt/QtConversion.h"

@@ -1,9 +1,8 @@
 #include "app/ui/MainMenu.h"
 
-#include "app/MenuController.h"
+#include "app/MenuCommands.h"
+#include "platform/qt/QtConversion.h"
 
-#include <algorithm>
-#include <array>
 #include <vector>
 
 namespace ondrilo {
@@ -22,81 +21,62 @@ Entry Submenu(const char* text, std::vector<Entry> entries) {
 
 std::vector<Entry> MainMenu() {
     return {
-        Submenu("&Ficheiro", {Submenu("Exportar", {{"Perfis de Utilizador...", 32916},
-                                                   {"Teclados de Ecrã...", 32919},
-                                                   {"Galerias de Pictogramas...", 32921},
-                                                   {"Todos os Dados...", 32922}}),
-                              Submenu("Importar", {{"Perfis de Utilizador...", 32917},
-                                                   {"Teclados de Ecrã...", 32918},
-                                                   {"Galerias de Pictogramas...", 32920},
-                                                   {"Todos os Dados...", 32923},
-                                                   {"Pasta de Pictogramas...", 32924}}),
+        Submenu("&Ficheiro", {Submenu("Exportar", {{"Perfis de Utilizador...", menu::ExportProfiles},
+                                                   {"Teclados de Ecrã...", menu::ExportKeyboards},
+                                                   {"Galerias de Pictogramas...", menu::ExportGalleries},
+                                                   {"Todos os Dados...", menu::ExportAll}}),
+                              Submenu("Importar", {{"Perfis de Utilizador...", menu::ImportProfiles},
+                                                   {"Teclados de Ecrã...", menu::ImportKeyboards},
+                                                   {"Galerias de Pictogramas...", menu::ImportGalleries},
+                                                   {"Todos os Dados...", menu::ImportAll},
+                                                   {"Pasta de Pictogramas...", menu::ImportPictures}}),
                               {"Desativar Menu", menu::DisableMenu},
                               {"Esconder Menu e Barras", menu::HideMenuAndBars},
-                              {"Opções Gerais...", 32912},
+                              {"Opções Gerais...", menu::SystemOptions},
                               {"Sai&r", menu::Quit}}),
         Submenu("&Editar", {{"A&nular", menu::Undo},
                             {"Cor&tar", menu::Cut},
                             {"&Copiar", menu::Copy},
                             {"C&olar", menu::Paste}}),
         Submenu("&Perfil",
-                {{"Novo Perfil...", 32913},
+                {{"Novo Perfil...", menu::NewProfile},
                  {"Abrir Perfil...", menu::OpenProfile},
-                 {"Remover Perfil...", 32915},
-                 {"&Opções do Perfil...", 32911},
-                 {"Copiar Opções de Outro Perfil...", 32910},
-                 Submenu("Dicionário do Perfil", {{"Palavras e Pictogramas...", 32905},
-                                                  {"Frases e Sequências de Palavras e Pictogramas...", 32907},
-                                                  {"Abreviaturas...", 32906}}),
+                 {"Remover Perfil...", menu::RemoveProfile},
+                 {"&Opções do Perfil...", menu::ProfileOptions},
+                 {"Copiar Opções de Outro Perfil...", menu::CopyProfileOptions},
+                 Submenu("Dicionário do Perfil",
+                         {{"Palavras e Pictogramas...", menu::Words},
+                          {"Frases e Sequências de Palavras e Pictogramas...", menu::Sentences},
+                          {"Abreviaturas...", menu::Abbreviations}}),
                  Submenu("Adaptar ao Utilizador", {{"A Partir de Ficheiro...", menu::LearnFromFile},
                                                    {"A Partir do Clipboard", menu::LearnFromClipboard}})}),
-        Submenu("&Teclado",
-                {Submenu("Novo Teclado", {{"A Criar de Raiz...", 32925}, {"A Partir de Modelo...", 32926}}),
-                 {"Abrir Teclado...", 32927},
-                 {"Remover Teclado...", 32942},
-                 {"Editar Teclado", 32928},
-                 {"Guardar Teclado", 32929},
-                 {"Terminar Edição", 32930},
-                 {"Opções do Teclado...", 32943},
-                 {"Gerir Galerias de Pictogramas...", 32931}}),
+        Submenu("&Teclado", {Submenu("Novo Teclado", {{"A Criar de Raiz...", menu::NewKeyboard},
+                                                      {"A Partir de Modelo...", menu::NewKeyboardFromModel}}),
+                             {"Abrir Teclado...", menu::OpenKeyboard},
+                             {"Remover Teclado...", menu::RemoveKeyboard},
+                             {"Editar Teclado", menu::EditKeyboard},
+                             {"Guardar Teclado", menu::SaveKeyboard},
+                             {"Terminar Edição", menu::EndEditing},
+                             {"Opções do Teclado...", menu::KeyboardOptions},
+                             {"Gerir Galerias de Pictogramas...", menu::Galleries}}),
         Submenu(
             "Fe&rramentas",
-            {Submenu("Comunicação Cooperativa", {{"Iniciar Sessão...", 32932}, {"Terminar Sessão", 32933}}),
-             Submenu("Registo de Eventos do Sistema", {{"Visualizar Registo de Eventos...", 32936},
-                                                       {"Copiar Registo de Eventos Para...", 32900},
-                                                       {"Limpar Registo de Eventos...", 32941},
-                                                       {"Reiniciar Métricas", 32937},
-                                                       {"Métricas do Utilizador...", 32934}}),
-             Submenu("Registos do Configurador", {{"Efectuar Registo...", 32899},
-                                                  {"Copiar Registo Para...", 32938},
-                                                  {"Limpar Registo", 32939}}),
-             Submenu("Simuladores", {{"Simulador de Predição de Palavras...", menu::SimulateWords},
-                                     {"Simulador de Predição de Texto...", 32948},
-                                     {"Simulador de Predição de Pictogramas...", 32950}})}),
+            {Submenu("Comunicação Cooperativa", {{"Iniciar Sessão...", menu::StartCooperation},
+                                                 {"Terminar Sessão", menu::EndCooperation}}),
+             Submenu("Registo de Eventos do Sistema", {{"Visualizar Registo de Eventos...", menu::ViewLog},
+                                                       {"Copiar Registo de Eventos Para...", menu::CopyLogs},
+                                                       {"Limpar Registo de Eventos...", menu::RemoveLogs},
+                                                       {"Reiniciar Métricas", menu::RestartMetrics},
+                                                       {"Métricas do Utilizador...", menu::Metrics}}),
+             Submenu("Registos do Configurador", {{"Efectuar Registo...", menu::RecordFeedback},
+                                                  {"Copiar Registo Para...", menu::CopyRecords},
+                                                  {"Limpar Registo", menu::ClearRecords}}),
+             Submenu("Simuladores",
+                     {{"Simulador de Predição de Palavras...", menu::SimulateWords},
+                      {"Simulador de Predição de Texto...", menu::SimulateText},
+                      {"Simulador de Predição de Pictogramas...", menu::SimulatePictograms}})}),
         Submenu("Aj&uda", {{"&Acerca Tessivor...", menu::About}}),
     };
-}
-
-/// The status line's prompts of the two entries have always been the other's.
-const char* PromptOf(int number) {
-    switch (number) {
-    case menu::LearnFromFile:
-        return "Adaptar o dicionário de palavras com base num texto da área de transferência.";
-    case menu::LearnFromClipboard:
-        return "Adaptar o dicionário de palavras com base num ficheiro de texto.";
-    default:
-        return "";
-    }
-}
-
-bool IsBuilt(int number) {
-    constexpr std::array built = {menu::LearnFromFile, menu::LearnFromClipboard,
-                                  menu::SimulateWords, menu::OpenProfile,
-                                  menu::DisableMenu,   menu::HideMenuAndBars,
-                                  menu::Copy,          menu::Cut,
-                                  menu::Paste,         menu::Undo,
-                                  menu::About,         menu::Quit};
-    return std::find(built.begin(), built.end(), number) != built.end();
 }
 
 void Fill(QMenu& menu, const std::vector<Entry>& entries, const std::function<void(int)>& chosen) {
@@ -105,12 +85,13 @@ void Fill(QMenu& menu, const std::vector<Entry>& entries, const std::function<vo
             Fill(*menu.addMenu(entry.text), entry.entries, chosen);
             continue;
         }
+        const auto& command = *FindMenuCommand(entry.number);
         auto* action = menu.addAction(entry.text);
         action->setData(entry.number);
         action->setObjectName(QString("command_%1").arg(entry.number));
-        action->setStatusTip(PromptOf(entry.number));
+        action->setStatusTip(ToQString(command.prompt));
         action->setMenuRole(QAction::NoRole);
-        action->setEnabled(IsBuilt(entry.number));
+        action->setEnabled(command.available);
         QObject::connect(action, &QAction::triggered, action,
                          [chosen, number = entry.number] { chosen(number); });
     }

@@ -2,6 +2,12 @@
 
 namespace ondrilo {
 
+bool CUserProfile::EditOptions(OptionDialogs& dialogs, const ProfileOptionSources& sources) {
+    const bool accepted = dialogs.EditProfileOptions({properties, access}, sources);
+    changed = changed || accepted;
+    return accepted;
+}
+
 void CUserProfile::CopyOptionsOf(const CUserProfile& other) {
     auto copy = other.properties;
     copy.profileName = properties.profileName;

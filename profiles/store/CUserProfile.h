@@ -3,8 +3,7 @@
 #include "platform/FileStore.h"
 #include "prediction/CDictionary.h"
 #include "prediction/LearningJournal.h"
-#include "profiles/CAccessOptions.h"
-#include "profiles/CUserProfileProperties.h"
+#include "profiles/OptionDialogs.h"
 
 #include <filesystem>
 #include <memory>
@@ -31,6 +30,9 @@ class CUserProfile {
         changed = true;
     }
     [[nodiscard]] bool IsChanged() const { return changed; }
+
+    /// Lets the person edit the options; true on OK, which marks the profile as changed.
+    bool EditOptions(OptionDialogs& dialogs, const ProfileOptionSources& sources);
 
     /// Takes over all options of another profile; name and files stay its own.
     void CopyOptionsOf(const CUserProfile& other);

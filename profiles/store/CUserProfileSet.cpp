@@ -10,6 +10,16 @@ namespace ondrilo {
 
 namespace {
 
+/// Names of files that no profile owns: the dictionaries that all share, and the template of the options.
+constexpr TextView kReservedNames[] = {kGenericProfile, "geral", "base"};
+constexpr std::size_t kLongestName = 100; // bytes, so that no file name becomes too long
+
+/// A profile's name begins the names of its files, and stands in "utils" as a word of its own.
+bool IsFileName(TextView name) {
+    return name.size() <= kLongestName && name.front() != '.' &&
+           name.find_first_of(TextView("/\\\0\t\r\n", 6)) == TextView::npos;
+}
+
 constexpr TextView kVocabularyExtensions[] = {".pal", ".par", ".abr", ".frs", ".paf"};
 
 Text AsLines(const std::vector<Text>& names) {
@@ -171,9 +181,54 @@ void CUserProfileSet::RemoveProfile() {
     Tell(ReplaceFile(GetProfileListPath(), AsLines(listed)));
     if (index < 0)
         return;
+    ReleaseDictionary(At(index));
     profiles.erase(profiles.begin() + index);
     if (index < active)
         --active;
+}
+
+Text CUserProfileSet::ObjectionToName(TextView name) const {
+    if (name.empty())
+        return Text("Introduza um nome para o novo perfil de utilizador."_w);
+    if (name.find(' ') != TextView::npos)
+        return Text("Não são permitidos espaços no nome do perfil de utilizador. Utilize um travessão para "
+                    "separar as palavras que constituem o nome."_w);
+    if (std::ranges::count(kReservedNames, name) > 0 || ProfileExists(name))
+        return Text("Já existe um perfil de utilizador com esse nome."_w);
+    return IsFileName(name) ? Text()
+                            : Text("O nome do perfil de utilizador não pode conter esses caracteres."_w);
+}
+
+std::vector<Text> CUserProfileSet::LogsOf(TextView name) const {
+    auto logs = folder.Files(".log");
+    // Up to the blank, so that "ana" never takes the logs of "anabela".
+    std::erase_if(logs, [name](const Text& log) { return !log.starts_with(Text(name) + " "); });
+    return logs;
+}
+
+void CUserProfileSet::RemoveLogs(TextView name) {
+    bool all = true;
+    for (const auto& log : LogsOf(name))
+        all = bool(RemoveFile(folder.Path(log))) && all;
+    boxes.Show(all ? TextView("Registos eliminados com sucessos.")
+                   : "Não foi possível eliminar parte dos registos."_w);
+}
+
+void CUserProfileSet::CopyLogs() {
+    const auto name = ChooseProfile();
+    if (name.empty())
+        return;
+    const auto target = dialogs.ChooseFolder("Seleccione uma directoria");
+    if (!target)
+        return;
+    bool all = true;
+    for (const auto& log : LogsOf(name)) {
+        const auto read = ReadFile(folder.Path(log));
+        all = read.state == ReadState::Complete && ReplaceFile(DataFolder(*target).Path(log), read.bytes) &&
+              all;
+    }
+    boxes.Show(all ? TextView("Registos copiados com sucessos.")
+                   : "Não foi possível copiar parte dos registos."_w);
 }
 
 bool CUserProfileSet::CopyFromProfile() {

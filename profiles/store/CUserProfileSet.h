@@ -47,6 +47,12 @@ class CUserProfileSet {
     void CreateProfile(TextView name);
     /// Asks which profile, and for confirmation; the profile's files stay.
     void RemoveProfile();
+    /// Why a new profile cannot have that name: a sentence for the person, empty if it can.
+    [[nodiscard]] Text ObjectionToName(TextView name) const;
+    /// Deletes the event logs of a profile, and tells how it went.
+    void RemoveLogs(TextView name);
+    /// Asks which profile, and for a folder to copy its event logs to; tells how it went.
+    void CopyLogs();
     /// Asks which profile, and copies its options into the active one; false if none was chosen.
     bool CopyFromProfile();
     /// The chosen name, or empty on Cancel.
@@ -73,6 +79,7 @@ class CUserProfileSet {
     void LoadDictionary(CUserProfile& profile);
     [[nodiscard]] std::vector<Text> ListedNames() const;
     void Tell(const SaveResult& result);
+    [[nodiscard]] std::vector<Text> LogsOf(TextView name) const;
 
     DataFolder folder;
     MessageBoxes& boxes;

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "app/SessionController.h"
+
+namespace ondrilo {
+
+/// What the menu does with profiles: new, open, remove, their options and their event logs.
+class ProfileController : private ProfileOptionSources {
+  public:
+    ProfileController(const Environment& environment, CUserProfileSet& profiles, SessionController& session,
+                      LoggingController& logging, PredictionCycle& cycle, const CKeySet& keySet,
+                      EventWriter& events, const SessionServices& services);
+
+    void CreateProfile();
+    void OpenProfile();
+    void RemoveProfile() { profiles.RemoveProfile(); }
+    void EditOptions();
+    void CopyOptions();
+    void CopyLogs() { profiles.CopyLogs(); }
+    void RemoveLogs();
+
+  private:
+    [[nodiscard]] std::vector<Text> KeyNames() const override { return keySet.GetFreeKeyNames(); }
+    [[nodiscard]] std::vector<Text> KeyboardNames() const override;
+    [[nodiscard]] std::vector<Text> VoiceNames() const override { return services.speech.GetVoices(); }
+
+    Dialogs& dialogs;
+    OptionDialogs& optionDialogs;
+    CUserProfileSet& profiles;
+    SessionController& session;
+    LoggingController& logging;
+    PredictionCycle& cycle;
+    const CKeySet& keySet;
+    EventWriter& events;
+    SessionServices services;
+};
+
+} // namespace ondrilo
