@@ -135,8 +135,10 @@ void SessionController::ApplyOptions(const CUserProfileProperties& before) {
     const WaitCursor wait(frame);
     if (changed(option::REGISTAR_EVENTOS))
         Options().IsOn(option::REGISTAR_EVENTOS) ? logging.StartLog() : logging.EndLog();
-    if (changed(option::NOME_SINTETIZADOR_FALA))
+    if (changed(option::NOME_SINTETIZADOR_FALA)) {
+        services.speech.Release();
         SelectVoice();
+    }
     if (changed(option::AGENTE_ACTIVO, option::NOME_AGENTE))
         ReplaceAgent(before);
     if (changed(option::INICIAR_JANELA_MAXIMIZADA, option::INICIAR_JANELA_MINIMIZADA,
