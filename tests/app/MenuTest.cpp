@@ -162,7 +162,8 @@ TEST_F(MenuTest, CopiedOptionsTakeEffectInThePersonsOwnProfile) {
 TEST_F(MenuTest, WordsAreKeptOnOkAndComeBackOnCancel) {
     StartWriting();
     const auto userFrequency = [this](TextView word) {
-        return view->Profiles().Active().dictionary.GetWord(word).UserFrequency();
+        const auto entry = view->Profiles().Active().dictionary.GetWord(word);
+        return entry ? entry.UserFrequency() : -1;
     };
     Type("zebra ");
     bool ok = false;
