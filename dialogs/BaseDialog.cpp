@@ -22,14 +22,15 @@ BaseDialog::BaseDialog(const DialogHost& host, DialogNumber number, const char* 
     cancel->setText(tr("Cancelar"));
     connect(buttons, &QDialogButtonBox::accepted, this, [this] { TryAccept(); });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    lastRow->addWidget(buttons, 1);
-    rows->addLayout(lastRow);
 }
 
 void BaseDialog::SetContent(QWidget* content) {
     if (auto* layout = content->layout())
         layout->setContentsMargins({});
-    rows->insertWidget(0, new ScrolledContent(content), 1);
+    rows->addWidget(new ScrolledContent(content), 1);
+    // Only now: in the order in which they come, Tab goes from one to the next.
+    lastRow->addWidget(buttons, 1);
+    rows->addLayout(lastRow);
 }
 
 bool BaseDialog::Run() {

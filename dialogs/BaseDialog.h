@@ -50,7 +50,7 @@ class BaseDialog : public QDialog {
     void setVisible(bool visible) override;
 
   protected:
-    /// Fills the room above the buttons.
+    /// Fills the room above the buttons; once, with all that is in it.
     void SetContent(QWidget* content);
     /// "OK" and "Cancelar" at first, with the object names "okButton" and "cancelButton". OK calls TryAccept.
     [[nodiscard]] QDialogButtonBox& Buttons() { return *buttons; }

@@ -1,15 +1,13 @@
 #include "dialogs/CWordPredictionSimulatorDlg.h"
 
-#include "dialogs/TextFileChooser.h"
+#include "dialogs/FileChooser.h"
 #include "platform/qt/QtConversion.h"
 
 #include <QApplication>
 #include <QFormLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QRadioButton>
 #include <QScrollBar>
-#include <QVBoxLayout>
 
 namespace ondrilo {
 namespace {
@@ -22,10 +20,10 @@ constexpr int kValueDigits = 12;
 
 } // namespace
 
-CWordPredictionSimulatorDlg::CWordPredictionSimulatorDlg(Simulator& simulator, Desktop& desktop)
-    : simulator(simulator), desktop(desktop) {
-    setObjectName("wordSimulatorDialog");
-    setWindowTitle(tr("Simulador de Predição de Palavras"));
+CWordPredictionSimulatorDlg::CWordPredictionSimulatorDlg(const DialogHost& host, Simulator& simulator)
+    : BaseDialog(host, DialogNumber::WordSimulator, "wordSimulatorDialog",
+                 tr("Simulador de Predição de Palavras")),
+      simulator(simulator) {
     auto* choiceRows = new QVBoxLayout(choices);
     choiceRows->setContentsMargins({});
     choiceRows->addWidget(CreateSource());
@@ -40,10 +38,12 @@ CWordPredictionSimulatorDlg::CWordPredictionSimulatorDlg(Simulator& simulator, D
     auto* columns = new QHBoxLayout;
     columns->addLayout(left);
     columns->addWidget(CreateWrittenText(), 1);
-    auto* rows = new QVBoxLayout(this);
+    auto* content = new QWidget;
+    auto* rows = new QVBoxLayout(content);
     rows->addLayout(columns, 1);
     rows->addWidget(progressBar);
-    rows->addWidget(CreateButtons());
+    SetContent(content);
+    FillButtons();
 
     progressBar->setObjectName("progress");
     progressBar->setAccessibleName(tr("Progresso da simulação"));
@@ -116,25 +116,20 @@ QWidget* CWordPredictionSimulatorDlg::CreateWrittenText() {
     return box;
 }
 
-QWidget* CWordPredictionSimulatorDlg::CreateButtons() {
-    auto* bar = new QWidget;
+void CWordPredictionSimulatorDlg::FillButtons() {
     startButton->setObjectName("startButton");
     startButton->setEnabled(false);
     startButton->setDefault(true);
     closeButton->setObjectName("closeButton");
     closeButton->setAutoDefault(false);
-    auto* row = new QHBoxLayout(bar);
-    row->setContentsMargins({});
-    row->addStretch();
-    row->addWidget(startButton);
-    row->addWidget(closeButton);
+    Buttons().clear();
+    Buttons().addButton(startButton, QDialogButtonBox::ActionRole);
+    Buttons().addButton(closeButton, QDialogButtonBox::AcceptRole);
     connect(startButton, &QPushButton::clicked, this, &CWordPredictionSimulatorDlg::Simulate);
-    connect(closeButton, &QPushButton::clicked, this, &QDialog::accept);
-    return bar;
 }
 
 void CWordPredictionSimulatorDlg::TakeFile() {
-    if (const auto path = AskForTextFile(desktop, this))
+    if (const auto path = AskForTextFile(host.desktop))
         UseSource(*path, QString::fromStdString(path->filename().string()));
 }
 

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "platform/Desktop.h"
+#include "dialogs/BaseDialog.h"
 #include "platform/SimulatorDialog.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QDialog>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -18,18 +17,18 @@ namespace ondrilo {
 
 /// "Simulador de Predição de Palavras": chooses a text and a kind of simulation, and shows how it goes.
 /// While a simulation runs nothing is answered; the windows are kept painted.
-class CWordPredictionSimulatorDlg : public QDialog, private SimulatorProgress {
+class CWordPredictionSimulatorDlg : public BaseDialog, private SimulatorProgress {
     Q_OBJECT
 
   public:
-    CWordPredictionSimulatorDlg(Simulator& simulator, Desktop& desktop);
+    CWordPredictionSimulatorDlg(const DialogHost& host, Simulator& simulator);
 
   private:
     [[nodiscard]] QWidget* CreateSource();
     [[nodiscard]] QWidget* CreateTypes();
     [[nodiscard]] QWidget* CreateIndicators();
     [[nodiscard]] QWidget* CreateWrittenText();
-    [[nodiscard]] QWidget* CreateButtons();
+    void FillButtons();
 
     void TakeFile();
     void TakeClipboard();
@@ -42,7 +41,6 @@ class CWordPredictionSimulatorDlg : public QDialog, private SimulatorProgress {
     void PaintWindows();
 
     Simulator& simulator;
-    Desktop& desktop;
     std::filesystem::path source;
 
     QWidget* choices = new QWidget;

@@ -29,6 +29,7 @@ class FakeDialogs : public Dialogs {
         if (inSimulator)
             inSimulator(simulator);
     }
+    void ShowAbout() override { ++abouts; }
 
     std::optional<Text> chosenProfile;
     std::vector<Text> offeredProfiles;
@@ -40,6 +41,7 @@ class FakeDialogs : public Dialogs {
     Text folderTitle;
     std::function<bool(EntryList&)> inEntries;   ///< what the person does in the window; true: OK
     std::function<void(Simulator&)> inSimulator; ///< what the person does in the window
+    int abouts = 0;
 };
 
 } // namespace ondrilo

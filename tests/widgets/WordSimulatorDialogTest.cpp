@@ -1,5 +1,6 @@
 #include "dialogs/CWordPredictionSimulatorDlg.h"
 #include "tests/support/FakeDesktop.h"
+#include "tests/support/FakeMessageBoxes.h"
 
 #include <QTest>
 #include <QTimer>
@@ -44,7 +45,9 @@ struct Paints : QObject {
 TEST(WordSimulatorDialog, ARunIsPaintedWhileNothingIsAnswered) {
     SlowSimulator simulator;
     FakeDesktop desktop;
-    CWordPredictionSimulatorDlg dialog(simulator, desktop);
+    FakeMessageBoxes boxes;
+    UserRecord record;
+    CWordPredictionSimulatorDlg dialog({desktop, boxes, record}, simulator);
     const auto click = [&](const char* name) {
         dialog.findChild<QAbstractButton*>(name)->click();
     };
