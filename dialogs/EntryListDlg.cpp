@@ -14,8 +14,8 @@ namespace {
 constexpr int kLeastNumber = 1;
 constexpr int kGreatestNumber = 1'000'000;
 /// Smallest size of the list, in characters and lines.
-constexpr int kListWidth = 40;
-constexpr int kListHeight = 10;
+constexpr int kListWidth = 55;
+constexpr int kListHeight = 12;
 
 DialogNumber NumberOf(EntryListKind kind) {
     switch (kind) {
@@ -177,6 +177,7 @@ void EntryListDlg::ShowSelected() {
     if (textBox != nullptr) {
         textBox->setMaxLength(static_cast<int>(entries.ValueLimit(row < 0 ? TextView() : At(row).name)));
         textBox->setText(ToQString(value));
+        textBox->setCursorPosition(0);
         return;
     }
     // To be shown changes nothing, not even a number that the box cannot hold.
