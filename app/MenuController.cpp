@@ -8,10 +8,10 @@ MenuController::MenuController(const Environment& environment, const CSystemOpti
                                SystemOptionsController& systemOptionsController,
                                SimulatorController& simulators, WindowChrome& chrome, Countdowns& countdowns,
                                const SessionServices& services)
-    : frame(environment.frame), boxes(environment.boxes), systemOptions(systemOptions), keyboard(keyboard),
-      profiles(profiles), vocabulary(vocabulary), bulkLearning(bulkLearning),
-      systemOptionsController(systemOptionsController), simulators(simulators), chrome(chrome),
-      countdowns(countdowns), services(services) {
+    : frame(environment.frame), boxes(environment.boxes), dialogs(environment.dialogs),
+      systemOptions(systemOptions), keyboard(keyboard), profiles(profiles), vocabulary(vocabulary),
+      bulkLearning(bulkLearning), systemOptionsController(systemOptionsController), simulators(simulators),
+      chrome(chrome), countdowns(countdowns), services(services) {
 }
 
 void MenuController::Execute(int number) {
@@ -77,6 +77,8 @@ void MenuController::Run(int number) {
         return profiles.RemoveLogs();
     case menu::SimulateWords:
         return simulators.SimulateWords();
+    case menu::About:
+        return dialogs.ShowAbout();
     default: // what the window itself has done
         return;
     }

@@ -33,6 +33,7 @@ class MenuController {
 
     FrameWindow& frame;
     MessageBoxes& boxes;
+    Dialogs& dialogs;
     const CSystemOptions& systemOptions;
     const COnScreenKeyboard& keyboard;
     ProfileController& profiles;

@@ -48,7 +48,7 @@ int Run(const std::filesystem::path& dataFolder, QtDesktop& desktop, QtMessageBo
     QtTextMeasure textMeasure;
     QtPictures pictures(data);
     QtClipboard clipboard;
-    CMainFrame frame(queue, desktop, keys);
+    CMainFrame frame(queue, keys);
     QtSessionWindows windows({frame, queue, timers, sounds, keys, data, pictures});
     NullServices services;
     const DialogHost dialogHost{desktop, boxes, services.userRecord};

@@ -138,7 +138,7 @@ class RunningProgram {
     QtClipboard clipboard;
     QtTextMeasure textMeasure;
     QtPictures pictures{data};
-    CMainFrame frame{queue, desktop, keys};
+    CMainFrame frame{queue, keys};
     QtSessionWindows windows{{frame, queue, timers, sounds, keys, data, pictures}};
     CTessivorView view{{data, queue, clock, timers, desktop, keys, boxes, dialogs, optionDialogs, clipboard,
                         sounds, programs, textMeasure, pictures, frame, windows},

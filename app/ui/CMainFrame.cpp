@@ -2,19 +2,16 @@
 
 #include "app/MenuCommands.h"
 #include "app/ui/MainMenu.h"
-#include "platform/qt/FocusReturn.h"
 #include "platform/qt/QtConversion.h"
 #include "targets/ui/KeyStrokes.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDialogButtonBox>
 #include <QExposeEvent>
-#include <QLabel>
+#include <QLayout>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QTextEdit>
-#include <QVBoxLayout>
 #include <QWindow>
 
 #include <utility>
@@ -31,9 +28,9 @@ constexpr int kTakeover = 2000;      // milliseconds; what shows later was asked
 
 } // namespace
 
-CMainFrame::CMainFrame(MessageQueue& queue, Desktop& desktop, const KeyOutput& layout)
+CMainFrame::CMainFrame(MessageQueue& queue, const KeyOutput& layout)
     : QMainWindow(nullptr, Qt::Window | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus),
-      queue(queue), desktop(desktop), layout(layout), view(new ViewWidget(this)) {
+      queue(queue), layout(layout), view(new ViewWidget(this)) {
     setObjectName("mainFrame");
     setAttribute(Qt::WA_ShowWithoutActivating);
     setCentralWidget(view);
@@ -278,8 +275,6 @@ void CMainFrame::OnMenuCommand(int number) {
         [this, number] {
             if (listener)
                 listener->OnMenuCommand(number);
-            if (number == menu::About)
-                ShowAbout();
         },
         Qt::QueuedConnection);
 }
@@ -300,22 +295,6 @@ void CMainFrame::Edit(int number) {
     default:
         return;
     }
-}
-
-void CMainFrame::ShowAbout() {
-    QDialog dialog(this);
-    dialog.setObjectName("aboutDialog");
-    dialog.setWindowTitle(tr("Acerca"));
-    auto* text = new QLabel(tr("<h2>Ondrilo 3.0</h2>"
-                               "<p>Comunicação aumentativa e alternativa com teclados de ecrã<br>"
-                               "e predição de palavras, frases e pictogramas.</p>"
-                               "<p>Software livre, sob a licença GPL, versão 3 ou posterior.</p>"));
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
-    connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
-    auto* rows = new QVBoxLayout(&dialog);
-    rows->addWidget(text);
-    rows->addWidget(buttons);
-    RunDialog(dialog, desktop);
 }
 
 } // namespace ondrilo

@@ -20,7 +20,7 @@ class CMainFrame : public QMainWindow, public FrameWindow {
 
   public:
     /// All of them outlive the window.
-    CMainFrame(MessageQueue& queue, Desktop& desktop, const KeyOutput& layout);
+    CMainFrame(MessageQueue& queue, const KeyOutput& layout);
 
     /// The parent of editor and keyboard.
     [[nodiscard]] QWidget& View() { return *view; }
@@ -64,10 +64,8 @@ class CMainFrame : public QMainWindow, public FrameWindow {
     void OnViewResized();
     void OnMenuCommand(int number);
     void Edit(int number);
-    void ShowAbout();
 
     MessageQueue& queue;
-    Desktop& desktop;
     const KeyOutput& layout;
     const KeyRepeats keyRepeats;
     FrameWindowListener* listener = nullptr;

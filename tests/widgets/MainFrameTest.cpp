@@ -1,6 +1,5 @@
 #include "app/ui/CMainFrame.h"
 #include "app/ui/CTextWindow.h"
-#include "tests/support/FakeDesktop.h"
 #include "tests/support/FakeKeyOutput.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/widgets/Images.h"
@@ -50,10 +49,9 @@ class MainFrameTest : public testing::Test {
     QImage ViewImage() { return frame.View().grab().toImage(); }
 
     MessageQueue queue;
-    FakeDesktop desktop;
     FakeKeyOutput layout;
     Listener listener;
-    CMainFrame frame{queue, desktop, layout};
+    CMainFrame frame{queue, layout};
 };
 
 TEST_F(MainFrameTest, TheMenuOffersEveryEntryOnceAndTellsTheSessionItsNumber) {
