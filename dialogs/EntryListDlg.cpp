@@ -74,7 +74,6 @@ QWidget* EntryListDlg::CreateContent() {
     nameField->setObjectName("nameField");
     nameField->setMaxLength(static_cast<int>(entries.NameLimit()));
     findField->setObjectName("findField");
-    findField->setClearButtonEnabled(true);
     rows->setObjectName("entries");
     rows->setAccessibleName(windowTitle());
     valueBox->setObjectName("valueBox");
