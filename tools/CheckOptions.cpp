@@ -17,8 +17,6 @@ namespace ondrilo {
 
 namespace {
 
-constexpr int kTick = 100;
-
 bool IsComment(TextView word) {
     return word.starts_with('#') || word.starts_with("//");
 }
@@ -104,16 +102,14 @@ class ProfileCheck {
     }
 
     void CheckInteger(const ProfileOption& option, TextView word) {
-        constexpr IntegerOption inTicks[] = {option::TEMPO_DE_PREDICAO, option::VELOCIDADE_VARRIMENTO,
-                                             option::LATENCIA_INTERRUPTORES_VARRIMENTO};
         if (!CheckRange(file, word, option.least, option.most))
             return;
         const auto value = FieldScanner(word).Integer().value_or(0);
         const IntegerOption handle{option.index};
         if (handle == option::TECLAS_COMPLETAR && !Contains(std::array{0, 48, 112}, value))
             file.Tell(Quoted(word) + " is neither 0, 48 nor 112");
-        else if (Contains(inTicks, handle) && value % kTick != 0)
-            file.Tell(Quoted(word) + " is no multiple of " + std::to_string(kTick) +
+        else if (value % option.Step() != 0)
+            file.Tell(Quoted(word) + " is no multiple of " + std::to_string(option.Step()) +
                       ": that time never comes");
     }
 
