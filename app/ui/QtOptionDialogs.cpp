@@ -1,11 +1,13 @@
 #include "app/ui/QtOptionDialogs.h"
 
 #include "dialogs/CSystemOptionsDlg.h"
+#include "dialogs/options/CUserProfileOptionsPSheet.h"
 
 namespace ondrilo {
 
-bool QtOptionDialogs::EditProfileOptions(const PersonalOptions&, const ProfileOptionSources&) {
-    return false;
+bool QtOptionDialogs::EditProfileOptions(const PersonalOptions& options,
+                                         const ProfileOptionSources& sources) {
+    return CUserProfileOptionsPSheet(options, sources, host).Run();
 }
 
 bool QtOptionDialogs::EditSystemOptions(CSystemOptions& options, SystemOptionSources& sources) {
