@@ -8,6 +8,12 @@
 #include <QStyle>
 
 namespace ondrilo {
+namespace {
+
+/// Room in a caption for what is not its text, in heights of the caption.
+constexpr int kCaptionButtons = 5;
+
+} // namespace
 
 BaseDialog::BaseDialog(const DialogHost& host, DialogNumber number, const char* objectName,
                        const QString& title)
@@ -41,15 +47,18 @@ bool BaseDialog::Run() {
 }
 
 void BaseDialog::setVisible(bool visible) {
-    if (visible && !testAttribute(Qt::WA_Resized)) {
-        // The window manager adds a caption.
-        const auto most = screen()->availableSize() -
-                          QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this));
-        setMaximumSize(most);
-        // Qt on its own would scroll in two thirds of the screen.
-        resize(sizeHint().boundedTo(most));
-    }
+    if (visible && !testAttribute(Qt::WA_Resized))
+        FitScreen();
     QDialog::setVisible(visible);
+}
+
+void BaseDialog::FitScreen() {
+    const int caption = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+    const int title = fontMetrics().horizontalAdvance(windowTitle()) + kCaptionButtons * caption;
+    const auto most = screen()->availableSize() - QSize(0, caption);
+    setMaximumSize(most);
+    // Qt on its own would scroll in two thirds of the screen.
+    resize(sizeHint().expandedTo({title, 0}).boundedTo(most));
 }
 
 void BaseDialog::Refuse(TextView reason, QLineEdit& field) {

@@ -62,6 +62,8 @@ class BaseDialog : public QDialog {
     DialogHost host;
 
   private:
+    void FitScreen();
+
     DialogNumber number;
     QVBoxLayout* rows = new QVBoxLayout(this);
     QHBoxLayout* lastRow = new QHBoxLayout;

@@ -31,16 +31,13 @@ CWordPredictionSimulatorDlg::CWordPredictionSimulatorDlg(const DialogHost& host,
     choiceRows->addWidget(saveResults);
     saveResults->setObjectName("saveResults");
 
-    auto* left = new QVBoxLayout;
-    left->addWidget(choices);
-    left->addWidget(CreateIndicators());
-    left->addStretch();
-    auto* columns = new QHBoxLayout;
-    columns->addLayout(left);
-    columns->addWidget(CreateWrittenText(), 1);
+    auto* results = new QHBoxLayout;
+    results->addWidget(CreateIndicators());
+    results->addWidget(CreateWrittenText(), 1);
     auto* content = new QWidget;
     auto* rows = new QVBoxLayout(content);
-    rows->addLayout(columns, 1);
+    rows->addWidget(choices);
+    rows->addLayout(results, 1);
     rows->addWidget(progressBar);
     SetContent(content);
     FillButtons();
@@ -124,7 +121,7 @@ void CWordPredictionSimulatorDlg::FillButtons() {
     closeButton->setAutoDefault(false);
     Buttons().clear();
     Buttons().addButton(startButton, QDialogButtonBox::ActionRole);
-    Buttons().addButton(closeButton, QDialogButtonBox::AcceptRole);
+    Buttons().addButton(closeButton, QDialogButtonBox::RejectRole);
     connect(startButton, &QPushButton::clicked, this, &CWordPredictionSimulatorDlg::Simulate);
 }
 

@@ -3,6 +3,7 @@
 #include "platform/qt/FocusReturn.h"
 
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QStandardPaths>
 
 namespace ondrilo {
@@ -17,6 +18,8 @@ std::optional<std::filesystem::path> Choose(QFileDialog& chooser, Desktop& deskt
     chooser.setObjectName("fileChooser");
     chooser.setOption(QFileDialog::DontUseNativeDialog);
     chooser.setDirectory(StartFolder());
+    for (auto* columns : chooser.findChildren<QHeaderView*>())
+        columns->setSectionResizeMode(QHeaderView::ResizeToContents);
     if (RunDialog(chooser, desktop) != QDialog::Accepted || chooser.selectedFiles().isEmpty())
         return std::nullopt;
     return chooser.selectedFiles().front().toStdString();

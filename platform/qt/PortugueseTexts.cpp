@@ -72,7 +72,7 @@ constexpr Row kRows[] = {
     {"Could not delete directory.", "Não foi possível eliminar a pasta."},
     // chooser of colours
     {"Select Color", "Seleccionar Cor"},
-    {"&Basic colors", "Cores &básicas"},
+    {"&Basic colors", "&Cores básicas"},
     {"&Custom colors", "Cores &personalizadas"},
     {"&Add to Custom Colors", "&Adicionar às Cores Personalizadas"},
     {"&Pick Screen Color", "&Escolher Cor do Ecrã"},
