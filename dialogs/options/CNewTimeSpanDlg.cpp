@@ -42,6 +42,7 @@ QWidget* CNewTimeSpanDlg::CreateRow(const Time& time) {
     row->addWidget(time.hour);
     row->addWidget(new QLabel(":"));
     row->addWidget(time.minute);
+    row->addStretch();
     return both;
 }
 
