@@ -1,6 +1,4 @@
 #include "app/CTessivorView.h"
-#include "app/ui/QtDialogs.h"
-#include "app/ui/QtOptionDialogs.h"
 #include "app/ui/QtSessionWindows.h"
 #include "benchmarks/Measures.h"
 #include "platform/linux/PosixProgramStarter.h"
@@ -11,7 +9,9 @@
 #include "platform/qt/QtTextMeasure.h"
 #include "tests/support/FakeClock.h"
 #include "tests/support/FakeDesktop.h"
+#include "tests/support/FakeDialogs.h"
 #include "tests/support/FakeKeyOutput.h"
+#include "tests/support/FakeOptionDialogs.h"
 #include "tests/support/FakeSounds.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -113,6 +113,13 @@ class RunningProgram {
     [[nodiscard]] std::vector<QWidget*> AllKeyWidgets() { return WidgetsOf(view.Keyboard().AllKeys()); }
     void KeyDown(char key) { keys.KeyDown(key); }
     void KeyUp(char key) { keys.KeyUp(key); }
+    /// From the answer of the dialog that asks for the profile to keys that are painted.
+    void OpenProfile(TextView name) {
+        dialogs.chosenProfile = name;
+        frame.findChild<QAction*>(QString("command_%1").arg(menu::OpenProfile))->trigger();
+        RunUntil([&] { return view.Profiles().Active().properties.profileName == name; });
+        QApplication::processEvents(); // lets all that is exposed be painted
+    }
     [[nodiscard]] std::vector<Text> Predictions() {
         std::vector<Text> labels;
         for (const auto& key : view.Keyboard().KeysOfType(KeyType::WordPrediction))
@@ -133,8 +140,8 @@ class RunningProgram {
     PosixProgramStarter programs;
     QtMessageBoxes boxes{desktop};
     NullServices services;
-    QtDialogs dialogs{{desktop, boxes, services.userRecord}};
-    QtOptionDialogs optionDialogs{{desktop, boxes, services.userRecord}};
+    FakeDialogs dialogs;
+    FakeOptionDialogs optionDialogs;
     QtClipboard clipboard;
     QtTextMeasure textMeasure;
     QtPictures pictures{data};
@@ -220,6 +227,22 @@ void SwitchUntilLit(benchmark::State& state) {
     state.counters.erase("allocations"); // not counted here
 }
 
+/// Wall-clock time, with the dictionaries of both profiles.
+void ChangeProfile(benchmark::State& state) {
+    RunningProgram program;
+    Percentiles percentiles;
+    bool toSwitch = false;
+    while (state.KeepRunning()) {
+        QElapsedTimer time;
+        time.start();
+        program.OpenProfile((toSwitch = !toSwitch) ? "UmManipulo" : kGenericProfile);
+        percentiles.Add(static_cast<double>(time.nsecsElapsed()) / 1e3);
+    }
+    percentiles.Report(state);
+    state.counters.erase("allocations"); // not counted here
+}
+
+BENCHMARK(ChangeProfile)->Unit(benchmark::kMillisecond)->Iterations(20);
 BENCHMARK(SwitchUntilLit)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(PressKeys, UntilTheKeyIsRepainted, Until::KeyPainted)
     ->Unit(benchmark::kMillisecond)
