@@ -122,6 +122,10 @@ class Desktop:
         result = subprocess.run(['xdotool', 'getactivewindow', 'getwindowname'], capture_output=True, text=True)
         return result.stdout.strip()
 
+    def active_window(self):
+        """Its number, empty if nothing has the focus."""
+        return subprocess.run(['xdotool', 'getactivewindow'], capture_output=True, text=True).stdout.strip()
+
     def picture(self, path):
         subprocess.run(['import', '-window', 'root', str(path)], check=True)
 
@@ -157,11 +161,11 @@ class Program:
                         return window
         return None
 
-    def all(self, accept):
-        """Every element of the window, in tree order, that `accept` likes and that shows."""
-        return wait_for(lambda: self._walk(accept), 'a tree that stands still')[0]
+    def all(self, accept, root=None):
+        """Every element of the main window, or below `root`, that `accept` likes, in tree order."""
+        return wait_for(lambda: self._walk(accept, root or self.window), 'a tree that stands still')[0]
 
-    def _walk(self, accept):
+    def _walk(self, accept, root):
         """What was found, in a tuple; nothing if an element went away meanwhile."""
         found = []
 
@@ -172,9 +176,9 @@ class Program:
                 child = element.get_child_at_index(i)
                 if child:
                     walk(child)
-        self.window.clear_cache()
+        root.clear_cache()
         try:
-            walk(self.window)
+            walk(root)
         except self.gone:
             return None
         return (found,)
