@@ -11,14 +11,14 @@ def choose(program, *path):
 
 
 def shown(program, root, name, roles=None):
-    """Waits for an element of that name, not a label, that is on the screen."""
+    """Waits for an element of that name, not a label, that is on the screen; the first of several."""
     showing, label = program.atspi.StateType.SHOWING, program.atspi.Role.LABEL
 
     def is_it(element):
         role = element.get_role()
         return (element.get_name() == name and (role in roles if roles else role != label)
                 and element.get_state_set().contains(showing))
-    return wait_for(lambda: program.all(is_it, root), '"%s"' % name)[-1]
+    return wait_for(lambda: program.all(is_it, root), '"%s"' % name)[0]
 
 
 class Dialog:
