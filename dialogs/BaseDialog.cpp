@@ -11,7 +11,7 @@ namespace ondrilo {
 namespace {
 
 /// Room in a caption for what is not its text, in heights of the caption.
-constexpr int kCaptionButtons = 5;
+constexpr int kCaptionButtons = 6;
 
 } // namespace
 
@@ -54,7 +54,9 @@ void BaseDialog::setVisible(bool visible) {
 
 void BaseDialog::FitScreen() {
     const int caption = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
-    const int title = fontMetrics().horizontalAdvance(windowTitle()) + kCaptionButtons * caption;
+    auto captionFont = font();
+    captionFont.setBold(true);
+    const int title = QFontMetrics(captionFont).horizontalAdvance(windowTitle()) + kCaptionButtons * caption;
     const auto most = screen()->availableSize() - QSize(0, caption);
     setMaximumSize(most);
     // Qt on its own would scroll in two thirds of the screen.
