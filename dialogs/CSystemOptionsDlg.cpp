@@ -1,5 +1,6 @@
 #include "dialogs/CSystemOptionsDlg.h"
 
+#include "dialogs/SelectedRow.h"
 #include "platform/qt/QtConversion.h"
 
 #include <QFormLayout>
@@ -178,13 +179,10 @@ int CSystemOptionsDlg::AskForRow() {
         host.boxes.Show("Lista vazia!");
         return -1;
     }
-    // The current row will not do: the focus alone makes one.
-    const auto selected = priorities->selectionModel()->selectedRows();
-    if (selected.isEmpty()) {
+    const int row = SelectedRow(*priorities);
+    if (row < 0)
         host.boxes.Show("Seleccione primeiro um perfil de utilizador.");
-        return -1;
-    }
-    return selected.front().row();
+    return row;
 }
 
 std::vector<Text> CSystemOptionsDlg::Priorities() const {

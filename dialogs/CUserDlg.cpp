@@ -1,5 +1,6 @@
 #include "dialogs/CUserDlg.h"
 
+#include "dialogs/SelectedRow.h"
 #include "platform/qt/QtConversion.h"
 
 #include <QLabel>
@@ -30,19 +31,17 @@ CUserDlg::CUserDlg(const DialogHost& host, const std::vector<Text>& names)
 }
 
 Text CUserDlg::Name() const {
-    const auto* item = Chosen();
-    return item ? FromQString(item->text()) : Text();
-}
-
-const QListWidgetItem* CUserDlg::Chosen() const {
-    const auto selected = list->selectedItems();
-    return selected.isEmpty() ? nullptr : selected.front();
+    const int row = SelectedRow(*list);
+    return row < 0 ? Text() : FromQString(list->item(row)->text());
 }
 
 void CUserDlg::FollowTyping(const QString& typed) {
     const QSignalBlocker quiet(list);
-    const auto matches = list->findItems(typed, Qt::MatchStartsWith | Qt::MatchCaseSensitive);
-    list->setCurrentItem(matches.isEmpty() ? nullptr : matches.front());
+    list->setCurrentItem(nullptr);
+    // "ana" typed whole is not the "anabela" above it.
+    for (const auto how : {Qt::MatchStartsWith, Qt::MatchExactly})
+        if (const auto found = list->findItems(typed, how | Qt::MatchCaseSensitive); !found.isEmpty())
+            list->setCurrentItem(found.front());
 }
 
 void CUserDlg::FollowList() {
@@ -51,7 +50,7 @@ void CUserDlg::FollowList() {
 }
 
 void CUserDlg::TryAccept() {
-    if (!Chosen())
+    if (SelectedRow(*list) < 0)
         return Refuse("Não existe nenhum utilizador com esse nome!"_w, *field);
     accept();
 }

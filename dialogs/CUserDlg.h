@@ -23,8 +23,6 @@ class CUserDlg : public BaseDialog {
   private:
     void FollowTyping(const QString& typed);
     void FollowList();
-    /// Null if nothing is. The current item will not do: the focus alone makes one.
-    [[nodiscard]] const QListWidgetItem* Chosen() const;
 
     QLineEdit* field = new QLineEdit;
     QListWidget* list = new QListWidget;

@@ -1,5 +1,6 @@
 #include "dialogs/EntryListDlg.h"
 
+#include "dialogs/SelectedRow.h"
 #include "platform/qt/QtConversion.h"
 
 #include <QGridLayout>
@@ -145,7 +146,7 @@ void EntryListDlg::Add() {
 }
 
 void EntryListDlg::ChangeSelected(TextView value) {
-    const int row = SelectedRow();
+    const int row = SelectedRow(*rows);
     if (row < 0)
         return;
     auto& entry = listed[static_cast<std::size_t>(row)];
@@ -158,7 +159,7 @@ void EntryListDlg::RemoveSelected() {
     const auto& texts = entries.Texts();
     if (listed.empty())
         return host.boxes.Show(texts.emptyList);
-    const int row = SelectedRow();
+    const int row = SelectedRow(*rows);
     if (row < 0)
         return host.boxes.Show(texts.nothingSelected);
     if (host.boxes.AskYesNo(texts.confirmRemoval) != Answer::Yes)
@@ -170,7 +171,7 @@ void EntryListDlg::RemoveSelected() {
 }
 
 void EntryListDlg::ShowSelected() {
-    const int row = SelectedRow();
+    const int row = SelectedRow(*rows);
     valueBox->setEnabled(row >= 0);
     const Text value = row < 0 ? Text() : At(row).value;
     if (textBox != nullptr) {
@@ -195,11 +196,6 @@ void EntryListDlg::Find(const QString& text) {
 void EntryListDlg::Select(int row) {
     rows->setCurrentRow(row);
     ShowSelected();
-}
-
-int EntryListDlg::SelectedRow() const {
-    const auto selected = rows->selectionModel()->selectedRows();
-    return selected.isEmpty() ? -1 : selected.front().row();
 }
 
 int EntryListDlg::RowOf(TextView name) const {

@@ -33,8 +33,6 @@ class EntryListDlg : public BaseDialog {
     void Find(const QString& text);
 
     void Select(int row);
-    /// -1 for none. The current row will not do: the focus alone makes one.
-    [[nodiscard]] int SelectedRow() const;
     [[nodiscard]] int RowOf(TextView name) const;
     [[nodiscard]] const ListedEntry& At(int row) const { return listed[static_cast<std::size_t>(row)]; }
 

@@ -1,5 +1,6 @@
 #include "dialogs/options/TimeSpanList.h"
 
+#include "dialogs/SelectedRow.h"
 #include "dialogs/options/CNewTimeSpanDlg.h"
 #include "platform/qt/QtConversion.h"
 #include "text/Splitter.h"
@@ -58,13 +59,13 @@ void TimeSpanList::Add() {
 void TimeSpanList::Remove() {
     if (list->count() == 0)
         return host.boxes.Show("Lista vazia!");
-    const int row = list->currentRow();
+    const int row = SelectedRow(*list);
     if (row < 0)
         return host.boxes.Show("Seleccione primeiro um intervalo de tempo.");
     if (host.boxes.AskYesNo("Quer mesmo apagar este intervalo de tempo?") != Answer::Yes)
         return;
     delete list->takeItem(row);
-    list->setCurrentRow(std::max(row - 1, list->count() > 0 ? 0 : -1));
+    list->setCurrentRow(std::max(row - 1, 0));
     Store();
 }
 
