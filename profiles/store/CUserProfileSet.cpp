@@ -14,10 +14,10 @@ namespace {
 constexpr TextView kReservedNames[] = {kGenericProfile, "geral", "base"};
 constexpr std::size_t kLongestName = 100; // bytes, so that no file name becomes too long
 
-/// A profile's name begins the names of its files, and stands in "utils" as a word of its own.
+/// A profile's name begins the names of its files, and stands in "utils" as a word of its own and in the list
+/// of priorities between ";". A "?" is what a character that Windows-1252 lacks has become.
 bool IsFileName(TextView name) {
-    return name.size() <= kLongestName && name.front() != '.' &&
-           name.find_first_of(TextView("/\\\0\t\r\n", 6)) == TextView::npos;
+    return name.front() != '.' && name.find_first_of(TextView("/\\?;\0\t\r\n\v\f", 10)) == TextView::npos;
 }
 
 constexpr TextView kVocabularyExtensions[] = {".pal", ".par", ".abr", ".frs", ".paf"};
@@ -195,6 +195,8 @@ Text CUserProfileSet::ObjectionToName(TextView name) const {
                     "separar as palavras que constituem o nome."_w);
     if (std::ranges::count(kReservedNames, name) > 0 || ProfileExists(name))
         return Text("Já existe um perfil de utilizador com esse nome."_w);
+    if (name.size() > kLongestName)
+        return Text("O nome do perfil de utilizador é demasiado longo."_w);
     return IsFileName(name) ? Text()
                             : Text("O nome do perfil de utilizador não pode conter esses caracteres."_w);
 }
