@@ -43,8 +43,7 @@ class CLog {
     void ShowViewer();
 
   private:
-    void WriteEvent(const LogEvent& event);
-    void WriteLine(Text line);
+    void WriteLine(TextView line);
     void Close();
 
     const DataFolder& folder;

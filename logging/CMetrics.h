@@ -7,6 +7,8 @@
 
 namespace ondrilo {
 
+class MetricLines;
+
 /// The numbers that tell how much the system helped a person, and their lines.
 class CMetrics : public MetricsSink {
   public:
@@ -23,6 +25,9 @@ class CMetrics : public MetricsSink {
         std::int32_t positions = 0;
         std::int32_t prefixes = 0;
     };
+    void AddGeneral(MetricLines& lines, const MetricsFacts& facts) const;
+    void AddCompletions(MetricLines& lines) const;
+    void AddTail(MetricLines& lines) const;
     [[nodiscard]] std::int32_t Of(Metric metric) const { return counters[static_cast<std::size_t>(metric)]; }
 
     std::array<std::int32_t, kMetricCount> counters{};
