@@ -1,3 +1,4 @@
+#include "logging/CMetrics.h"
 #include "targets/CKeyboard.h"
 #include "targets/CKeyboardSimulator.h"
 #include "tests/conformance/Area.h"
@@ -43,6 +44,7 @@ class KeysArea : public Area {
             const Text text = DropBrackets(a.at(0));
             return NumbersOf(CountCharacters(text), CountWords(text), CountSentences(text));
         });
+        On("saving", [](const auto& a) { return Saving(a.Integer(0), a.Integer(1)); });
         On("simulate_count", [](const auto& a) {
             Values names;
             bool capsLock = false;
