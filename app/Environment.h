@@ -12,6 +12,7 @@
 #include "platform/MessageQueue.h"
 #include "platform/Programs.h"
 #include "platform/Sound.h"
+#include "platform/SpeechEngine.h"
 #include "profiles/OptionDialogs.h"
 
 namespace ondrilo {
@@ -29,6 +30,7 @@ struct Environment {
     OptionDialogs& optionDialogs;
     Clipboard& clipboard;
     SoundPlayer& sounds;
+    SpeechEngine& speechEngine;
     ProgramStarter& programs;
     TextMeasure& textMeasure;
     PictureMeasure& pictureMeasure;

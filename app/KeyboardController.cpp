@@ -41,16 +41,12 @@ void KeyboardController::LoadKeyboard(TextView name) {
 void KeyboardController::Reopen() {
     CloseKeyboard();
     LoadKeyboard(profiles.Active().properties.activeKeyboardName);
-    ShowStates();
-}
-
-void KeyboardController::ShowStates() {
-    sender.ShowModifiers();
-    ShowLoggingState();
+    Announce();
 }
 
 void KeyboardController::Announce() {
-    ShowStates();
+    sender.ShowModifiers();
+    ShowLoggingState();
     speech.SpeakText(keyboard.Description());
 }
 

@@ -20,7 +20,7 @@ class KeyboardController {
 
     /// A file that breaks off is told in the status line; what stands before that is on show.
     void LoadKeyboard(TextView name);
-    /// Lights the keys whose state is on, and speaks the keyboard's description.
+    /// To be called for each new keyboard: lights the keys whose state is on, and speaks its description.
     void Announce();
     /// Asks whether changes are to be kept, without a way back.
     void CloseKeyboard();
@@ -32,7 +32,6 @@ class KeyboardController {
     void ShowLoggingState();
 
   private:
-    void ShowStates();
     [[nodiscard]] bool WantsToKeepChanges();
 
     MessageQueue& queue;

@@ -4,10 +4,10 @@ namespace ondrilo {
 
 ProfileController::ProfileController(const Environment& environment, CUserProfileSet& profiles,
                                      SessionController& session, LoggingController& logging,
-                                     PredictionCycle& cycle, const CKeySet& keySet, EventWriter& events,
-                                     const SessionServices& services)
-    : dialogs(environment.dialogs), optionDialogs(environment.optionDialogs), profiles(profiles),
-      session(session), logging(logging), cycle(cycle), keySet(keySet), events(events), services(services) {
+                                     PredictionCycle& cycle, const CKeySet& keySet, EventWriter& events)
+    : dialogs(environment.dialogs), optionDialogs(environment.optionDialogs),
+      speechEngine(environment.speechEngine), profiles(profiles), session(session), logging(logging),
+      cycle(cycle), keySet(keySet), events(events) {
 }
 
 void ProfileController::CreateProfile() {
@@ -32,8 +32,11 @@ void ProfileController::EditOptions() {
     events.Event("MENU_OPTION_SELECTION", "USER_PROFILE_OPTIONS_DIALOG_OPENED");
     const bool accepted = profile.EditOptions(optionDialogs, *this);
     events.Event("MENU_OPTION_SELECTION", "USER_PROFILE_OPTIONS_DIALOG_CLOSED");
-    if (!accepted)
+    if (!accepted) {
+        // Exceptions of a voice were written all the same, and a voice may be heard on trial.
+        session.SelectVoices();
         return;
+    }
     // Now and not when the profile is left: the configurator's work must survive a crash.
     profiles.SaveActive();
     session.ApplyOptions(before);

@@ -9,7 +9,7 @@ class ProfileController : private ProfileOptionSources {
   public:
     ProfileController(const Environment& environment, CUserProfileSet& profiles, SessionController& session,
                       LoggingController& logging, PredictionCycle& cycle, const CKeySet& keySet,
-                      EventWriter& events, const SessionServices& services);
+                      EventWriter& events);
 
     void CreateProfile();
     void OpenProfile();
@@ -22,17 +22,18 @@ class ProfileController : private ProfileOptionSources {
   private:
     [[nodiscard]] std::vector<Text> KeyNames() const override { return keySet.GetFreeKeyNames(); }
     [[nodiscard]] std::vector<Text> KeyboardNames() const override;
-    [[nodiscard]] std::vector<Text> VoiceNames() const override { return services.speech.GetVoices(); }
+    [[nodiscard]] SpeechEngine& Speech() const override { return speechEngine; }
+    [[nodiscard]] const DataFolder& Folder() const override { return profiles.Folder(); }
 
     Dialogs& dialogs;
     OptionDialogs& optionDialogs;
+    SpeechEngine& speechEngine;
     CUserProfileSet& profiles;
     SessionController& session;
     LoggingController& logging;
     PredictionCycle& cycle;
     const CKeySet& keySet;
     EventWriter& events;
-    SessionServices services;
 };
 
 } // namespace ondrilo

@@ -59,7 +59,7 @@ void ScanningController::GiveCues() {
     if (IsOn(option::PISTA_SONORA_BEEP_VARRIMENTO))
         sounds.Beep();
     if (IsOn(option::PISTA_SINTETIZADA_VARRIMENTO))
-        speech.SpeakText(scanning.CueText());
+        speech.SpeakCue(scanning.CueText());
 }
 
 void ScanningController::LineSelected(COnScreenKeyIdentifier line) {

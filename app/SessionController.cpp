@@ -17,7 +17,6 @@ class WaitCursor {
     FrameWindow& frame;
 };
 
-constexpr TextView kNoVoice = "Nenhum";
 constexpr int kPreviewMargin = 5;
 
 } // namespace
@@ -42,7 +41,7 @@ void SessionController::StartSession() {
     logging.ResetMetrics();
     scanning.Reset();
     logging.StartLog();
-    SelectVoice();
+    SelectVoices();
     keyboards.LoadKeyboard(Options().activeKeyboardName);
     keyboards.Announce();
     placement.SetUpWindow();
@@ -63,9 +62,19 @@ void SessionController::StartSession() {
     frame.Redraw();
 }
 
-void SessionController::SelectVoice() {
+void SessionController::SelectVoices() {
     const auto& name = Options().Get(option::NOME_SINTETIZADOR_FALA);
-    services.speech.SelectVoice(name == kNoVoice ? TextView() : TextView(name));
+    const auto& access = profiles.Active().access;
+    ReleaseVoices();
+    if (name == kNoVoice)
+        return;
+    services.cueSpeech.SelectVoice(access.CueVoice().empty() ? name : access.CueVoice(), access.CueManner());
+    services.speech.SelectVoice(name, access.Manner());
+}
+
+void SessionController::ReleaseVoices() {
+    services.speech.Release();
+    services.cueSpeech.Release();
 }
 
 void SessionController::StartAgent() {
@@ -102,7 +111,7 @@ void SessionController::StopSession() {
         services.agent.Stop();
     keyboards.CloseKeyboard();
     placement.ClearBackground();
-    services.speech.Release();
+    ReleaseVoices();
     frame.Redraw();
     queue.Clear();
 }
@@ -135,10 +144,7 @@ void SessionController::ApplyOptions(const CUserProfileProperties& before) {
     const WaitCursor wait(frame);
     if (changed(option::REGISTAR_EVENTOS))
         Options().IsOn(option::REGISTAR_EVENTOS) ? logging.StartLog() : logging.EndLog();
-    if (changed(option::NOME_SINTETIZADOR_FALA)) {
-        services.speech.Release();
-        SelectVoice();
-    }
+    SelectVoices();
     if (changed(option::AGENTE_ACTIVO, option::NOME_AGENTE))
         ReplaceAgent(before);
     if (changed(option::INICIAR_JANELA_MAXIMIZADA, option::INICIAR_JANELA_MINIMIZADA,

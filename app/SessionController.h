@@ -32,12 +32,14 @@ class SessionController {
     /// Options of the active profile changed while the session runs: what shows them follows. The text that
     /// the person has written stays.
     void ApplyOptions(const CUserProfileProperties& before);
+    /// The voices of the active profile, with their exceptions as they are now. What is being spoken ends.
+    void SelectVoices();
     /// False from the first step of an end on, and between two sessions.
     [[nodiscard]] bool IsRunning() const { return running; }
 
   private:
     void StartWithOwnKeyboard();
-    void SelectVoice();
+    void ReleaseVoices();
     void StartAgent();
     void ReplaceAgent(const CUserProfileProperties& before);
     void CreatePreview();

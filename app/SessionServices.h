@@ -103,6 +103,7 @@ struct SessionServices {
     EventLog& log;
     MetricsSink& metrics;
     SpeechService& speech;
+    SpeechService& cueSpeech; ///< says what is being scanned
     Agent& agent;
     GpsSource& gps;
     BluetoothSource& bluetooth;
@@ -118,6 +119,7 @@ struct NullServices {
     EventLog log;
     MetricsSink metrics;
     SpeechService speech;
+    SpeechService cueSpeech;
     Agent agent;
     GpsSource gps;
     BluetoothSource bluetooth;
@@ -128,8 +130,8 @@ struct NullServices {
     PictogramWriter pictograms;
 
     [[nodiscard]] SessionServices All() {
-        return {log,     metrics,     speech,     agent,           gps,       bluetooth,
-                context, cooperation, userRecord, externalTargets, pictograms};
+        return {log,       metrics, speech,      cueSpeech,  agent,           gps,
+                bluetooth, context, cooperation, userRecord, externalTargets, pictograms};
     }
 };
 

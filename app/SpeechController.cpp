@@ -22,11 +22,20 @@ SpeechController::SpeechController(const CUserProfileSet& profiles, const Target
     : profiles(profiles), targets(targets), learning(learning), services(services) {
 }
 
+bool SpeechController::HasVoice() const {
+    return profiles.Active().properties.Get(option::NOME_SINTETIZADOR_FALA) != kNoVoice;
+}
+
 Text SpeechController::SpeakText(TextView text) {
-    if (text.empty() || profiles.Active().properties.Get(option::NOME_SINTETIZADOR_FALA) == "Nenhum")
+    if (text.empty() || !HasVoice())
         return {};
     services.speech.Speak(text);
     return Text(text);
+}
+
+void SpeechController::SpeakCue(TextView text) {
+    if (!text.empty() && HasVoice())
+        services.cueSpeech.Speak(text);
 }
 
 SpeechController::Spoken SpeechController::SpeakWordOrImage() {
@@ -41,9 +50,9 @@ Text SpeechController::SpeakCurrentWord() {
     auto word = Target()->GetCurrentWord();
     if (word.empty())
         word = Target()->GetPreviousWord();
-    const auto spoken = TrimLeft(word);
+    auto spoken = SpeakText(TrimLeft(word));
     Count(Metric::SpokenWord, spoken, false);
-    return SpeakText(spoken);
+    return spoken;
 }
 
 Text SpeechController::SpeakCurrentImage() {
@@ -52,8 +61,9 @@ Text SpeechController::SpeakCurrentImage() {
     auto label = Target()->GetImageLabelAtCursor();
     if (label.empty())
         label = Target()->GetLastImageLabel();
-    Count(Metric::SpokenPictogram, label, false);
-    return SpeakText(label);
+    auto spoken = SpeakText(label);
+    Count(Metric::SpokenPictogram, spoken, false);
+    return spoken;
 }
 
 Text SpeechController::SpeakCurrentSentence() {
@@ -64,9 +74,9 @@ Text SpeechController::SpeakCurrentSentence() {
     auto sentence = Target()->GetCurrentSentence();
     if (Trim(sentence).empty())
         sentence = Target()->GetPreviousSentence();
-    const auto spoken = SpokenForm(sentence);
+    auto spoken = SpeakText(SpokenForm(sentence));
     Count(Metric::SpokenSentence, spoken, true);
-    return SpeakText(spoken);
+    return spoken;
 }
 
 Text SpeechController::SpeakAll() {
@@ -74,9 +84,9 @@ Text SpeechController::SpeakAll() {
         return {};
     learning.LearnCurrentSentence();
     const auto text = Target()->GetTextWithLabels();
-    const auto spoken = SpokenForm(Trim(text));
+    auto spoken = SpeakText(SpokenForm(Trim(text)));
     Count(Metric::SpokenText, spoken, true);
-    return SpeakText(spoken);
+    return spoken;
 }
 
 void SpeechController::SpeakEndedWord() {
@@ -89,13 +99,14 @@ void SpeechController::SpeakEndedSentence() {
         SpeakText(Target()->GetPreviousSentence());
 }
 
-void SpeechController::Count(Metric kind, TextView text, bool withSentences) {
-    if (!services.log.IsOpen() || text.empty())
+void SpeechController::Count(Metric kind, TextView spoken, bool withSentences) {
+    if (!services.log.IsOpen() || spoken.empty())
         return;
     services.metrics.Count(kind);
-    services.metrics.Count(Metric::WordInSpeech, static_cast<int>(Split(text).size()));
+    services.metrics.Count(Metric::WordInSpeech, static_cast<int>(Split(spoken).size()));
     if (withSentences)
-        services.metrics.Count(Metric::SentenceInSpeech, static_cast<int>(Split(text, kTerminators).size()));
+        services.metrics.Count(Metric::SentenceInSpeech,
+                               static_cast<int>(Split(spoken, kTerminators).size()));
 }
 
 } // namespace ondrilo

@@ -13,6 +13,8 @@ class SpeechController {
 
     /// The only way in which anything is spoken. Gives back the text, or nothing if the profile has no voice.
     Text SpeakText(TextView text);
+    /// The same in the voice of scanning.
+    void SpeakCue(TextView text);
 
     /// Word or pictogram, by what the insertion point follows.
     struct Spoken {
@@ -29,8 +31,10 @@ class SpeechController {
     void SpeakEndedSentence();
 
   private:
+    [[nodiscard]] bool HasVoice() const;
     [[nodiscard]] CWordProcessor* Target() const { return targets.Current(); }
-    void Count(Metric kind, TextView text, bool withSentences);
+    /// What was spoken; nothing, if there was nothing to speak or no voice.
+    void Count(Metric kind, TextView spoken, bool withSentences);
 
     const CUserProfileSet& profiles;
     const Targets& targets;

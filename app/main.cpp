@@ -15,7 +15,9 @@
 #include "platform/qt/QtQueuePump.h"
 #include "platform/qt/QtTextMeasure.h"
 #include "platform/qt/QtTimerService.h"
+#include "platform/qt/SpeechDispatcher.h"
 #include "platform/x11/X11KeyOutput.h"
+#include "speech/CSpeechSynthesizer.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -50,7 +52,21 @@ int Run(const std::filesystem::path& dataFolder, QtDesktop& desktop, QtMessageBo
     QtClipboard clipboard;
     CMainFrame frame(queue, keys);
     QtSessionWindows windows({frame, queue, timers, sounds, keys, data, pictures});
-    NullServices services;
+    SpeechDispatcher speechEngine;
+    CSpeechSynthesizer speech(speechEngine, data), cueSpeech(speechEngine, data);
+    NullServices without;
+    const SessionServices services{.log = without.log,
+                                   .metrics = without.metrics,
+                                   .speech = speech,
+                                   .cueSpeech = cueSpeech,
+                                   .agent = without.agent,
+                                   .gps = without.gps,
+                                   .bluetooth = without.bluetooth,
+                                   .context = without.context,
+                                   .cooperation = without.cooperation,
+                                   .userRecord = without.userRecord,
+                                   .externalTargets = without.externalTargets,
+                                   .pictograms = without.pictograms};
     const DialogHost dialogHost{desktop, boxes, services.userRecord};
     QtDialogs dialogs(dialogHost);
     QtOptionDialogs optionDialogs(dialogHost);
@@ -66,12 +82,13 @@ int Run(const std::filesystem::path& dataFolder, QtDesktop& desktop, QtMessageBo
                         .optionDialogs = optionDialogs,
                         .clipboard = clipboard,
                         .sounds = sounds,
+                        .speechEngine = speechEngine,
                         .programs = programs,
                         .textMeasure = textMeasure,
                         .pictureMeasure = pictures,
                         .frame = frame,
                         .windows = windows},
-                       services.All());
+                       services);
     const QtQueuePump pump(queue, [&view](const MessageEvent& event) { view.Handle(event); });
     const QuitSignals quitSignals([&frame] { frame.Close(); });
     view.OnInitialUpdate();

@@ -13,6 +13,7 @@
 #include "tests/support/FakeKeyOutput.h"
 #include "tests/support/FakeOptionDialogs.h"
 #include "tests/support/FakeSounds.h"
+#include "tests/support/FakeSpeechEngine.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <QApplication>
@@ -137,6 +138,7 @@ class RunningProgram {
     FakeDesktop desktop;
     EditorKeys keys;
     FakeSounds sounds;
+    FakeSpeechEngine speechEngine;
     PosixProgramStarter programs;
     QtMessageBoxes boxes{desktop};
     NullServices services;
@@ -148,7 +150,7 @@ class RunningProgram {
     CMainFrame frame{queue, keys};
     QtSessionWindows windows{{frame, queue, timers, sounds, keys, data, pictures}};
     CTessivorView view{{data, queue, clock, timers, desktop, keys, boxes, dialogs, optionDialogs, clipboard,
-                        sounds, programs, textMeasure, pictures, frame, windows},
+                        sounds, speechEngine, programs, textMeasure, pictures, frame, windows},
                        services.All()};
     QtQueuePump pump{queue, [this](const MessageEvent& event) {
                          view.Handle(event);

@@ -32,6 +32,7 @@ enum class DialogNumber {
     Sentences,
     Abbreviations,
     WordSimulator,
+    SpeechExceptions,
 };
 
 /// The base of all dialogs: the person's content above a row of buttons, at whose left end there is room for

@@ -6,15 +6,36 @@
 
 namespace ondrilo {
 
-void CAccessOptions::Set(AccessOption option, int value) {
-    values[static_cast<std::size_t>(option)] = value;
+void CAccessOptions::Set(AccessOption option, std::optional<int> value) {
+    values.numbers[static_cast<std::size_t>(option)] = value;
     changed = true;
 }
 
+void CAccessOptions::SetCueVoice(TextView voice) {
+    values.cueVoice = voice;
+    changed = true;
+}
+
+std::optional<int> CAccessOptions::InRange(AccessOption option) const {
+    const auto value = Get(option);
+    return value ? std::optional(std::clamp(*value, RowOf(option).least, RowOf(option).most)) : std::nullopt;
+}
+
 int CAccessOptions::DwellTime() const {
-    constexpr auto row = kAccessOptions[static_cast<std::size_t>(access_option::TEMPO_PERMANENCIA)];
-    const int time = std::clamp(Get(access_option::TEMPO_PERMANENCIA), row.least, row.most);
-    return time - time % row.step;
+    const int time = InRange(access_option::TEMPO_PERMANENCIA).value_or(0);
+    return time - time % RowOf(access_option::TEMPO_PERMANENCIA).step;
+}
+
+SpeechManner CAccessOptions::Manner() const {
+    return {InRange(access_option::VELOCIDADE_FALA), InRange(access_option::TOM_FALA),
+            InRange(access_option::VOLUME_FALA)};
+}
+
+SpeechManner CAccessOptions::CueManner() const {
+    auto manner = Manner();
+    if (const auto volume = InRange(access_option::VOLUME_PISTAS))
+        manner.volume = volume;
+    return manner;
 }
 
 void CAccessOptions::Load(const std::filesystem::path& path) {
@@ -39,16 +60,21 @@ SaveResult CAccessOptions::Save() {
 void CAccessOptions::Parse(TextView bytes) {
     values = {};
     ForEachOptionLine(bytes, [this](TextView key, TextView line) {
-        for (std::size_t i = 0; i < values.size(); ++i)
+        for (std::size_t i = 0; i < values.numbers.size(); ++i)
             if (key == kAccessOptions[i].key)
-                values[i] = IntegerOfLine(line);
+                values.numbers[i] = IntegerOfLine(line);
+        if (key == kCueVoiceKey)
+            values.cueVoice = MarksToBlanks(TextOfLine(line));
     });
 }
 
 Text CAccessOptions::Format() const {
     Text bytes;
-    for (std::size_t i = 0; i < values.size(); ++i)
-        AppendOption(bytes, kAccessOptions[i].key, values[i]);
+    for (std::size_t i = 0; i < values.numbers.size(); ++i)
+        if (const auto& number = values.numbers[i])
+            AppendOption(bytes, kAccessOptions[i].key, *number);
+    if (!values.cueVoice.empty())
+        AppendOption(bytes, kCueVoiceKey, BlanksToMarks(values.cueVoice));
     return bytes;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/DataFolder.h"
 #include "profiles/CAccessOptions.h"
 #include "profiles/CSystemOptions.h"
 #include "profiles/CUserProfileProperties.h"
@@ -22,8 +23,10 @@ class ProfileOptionSources {
     [[nodiscard]] virtual std::vector<Text> KeyNames() const = 0;
     /// On-screen keyboards, without ".tec".
     [[nodiscard]] virtual std::vector<Text> KeyboardNames() const = 0;
-    /// Voices as the speech service describes them.
-    [[nodiscard]] virtual std::vector<Text> VoiceNames() const = 0;
+    /// The service whose voices can be chosen and heard.
+    [[nodiscard]] virtual SpeechEngine& Speech() const = 0;
+    /// Where the exceptions of voices are kept.
+    [[nodiscard]] virtual const DataFolder& Folder() const = 0;
 };
 
 /// What "Opções Gerais" offers to choose from, and the dialogs that it opens.

@@ -5,9 +5,7 @@ namespace ondrilo {
 CAccessPPage::CAccessPPage(const OptionsPageContext& context)
     : OptionsPage(context, "accessPage", tr("Acesso")) {
 
-    auto& access = AddGroup(tr("Acesso às Teclas"));
-    for (std::size_t i = 0; i < std::size(kAccessOptions); ++i)
-        access.Add(AccessOption{i});
+    AddGroup(tr("Acesso às Teclas")).Add(access_option::TEMPO_PERMANENCIA);
 }
 
 } // namespace ondrilo

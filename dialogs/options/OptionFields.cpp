@@ -1,36 +1,18 @@
 #include "dialogs/options/OptionFields.h"
 
 #include "dialogs/options/ColorField.h"
+#include "dialogs/options/WheelGuard.h"
 #include "platform/qt/QtConversion.h"
 #include "profiles/OptionLines.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QRadioButton>
 #include <QRegularExpressionValidator>
 
 namespace ondrilo {
 namespace {
-
-/// Who turns the wheel to move the page must not change the value that comes under the pointer.
-class WheelGuard : public QObject {
-  public:
-    explicit WheelGuard(QWidget* control) : QObject(control), control(control) {
-        control->setFocusPolicy(Qt::StrongFocus);
-        control->installEventFilter(this);
-    }
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() != QEvent::Wheel || control->hasFocus())
-            return false;
-        event->ignore();
-        return true;
-    }
-
-  private:
-    QWidget* control;
-};
 
 /// Refuses what the file could not give back.
 class LineValidator : public QValidator {
@@ -103,13 +85,36 @@ QSpinBox* OptionFields::CreateNumber(const Range& range, int value,
     return box;
 }
 
-QSpinBox* OptionFields::Create(AccessOption option) const {
-    const auto& row = kAccessOptions[static_cast<std::size_t>(option)];
-    auto* box = CreateNumber({row.least, row.most, row.step}, draft.Access().Get(option),
-                             [&draft = draft, option](int value) { draft.Set(option, value); });
-    box->setSuffix(ToQString(row.unit));
-    box->setSpecialValueText(ToQString(row.leastName));
-    return Named(box, row.key);
+QWidget* OptionFields::Create(AccessOption option) const {
+    const auto& row = RowOf(option);
+    const auto value = draft.Access().Get(option);
+    auto* number =
+        CreateNumber({row.least, row.most, row.step}, value.value_or(0),
+                     [&draft = draft, option](int changed) { draft.Set(option, std::optional(changed)); });
+    number->setSuffix(ToQString(row.unit));
+    number->setSpecialValueText(ToQString(row.leastName));
+    Named(number, row.key);
+    return row.absentName.empty() ? number : CreateWithAbsence(option, number);
+}
+
+QWidget* OptionFields::CreateWithAbsence(AccessOption option, QSpinBox* number) const {
+    const auto& row = RowOf(option);
+    const bool isAbsent = !draft.Access().Get(option);
+    auto* absence = new QCheckBox(ToQString(row.absentName));
+    absence->setObjectName(ToQString(Text(row.key) + "_absent"));
+    absence->setChecked(isAbsent);
+    number->setDisabled(isAbsent);
+    QObject::connect(absence, &QCheckBox::toggled, number, [&draft = draft, option, number](bool absent) {
+        number->setDisabled(absent);
+        draft.Set(option, absent ? std::nullopt : std::optional(number->value()));
+    });
+    auto* field = new QWidget;
+    auto* both = new QHBoxLayout(field);
+    both->setContentsMargins({});
+    both->addWidget(number);
+    both->addWidget(absence);
+    both->addStretch();
+    return field;
 }
 
 QLineEdit* OptionFields::Create(RealOption option) const {

@@ -32,7 +32,8 @@ class OptionFields {
     [[nodiscard]] QWidget* Create(IntegerOption option, const QString& detail) const;
     [[nodiscard]] QLineEdit* Create(RealOption option) const;
     [[nodiscard]] QLineEdit* Create(TextOption option) const;
-    [[nodiscard]] QSpinBox* Create(AccessOption option) const;
+    /// A number; with a check box beside it if the absent value is none of its numbers.
+    [[nodiscard]] QWidget* Create(AccessOption option) const;
     /// One of `choices`.
     [[nodiscard]] QComboBox* CreateChoice(TextOption option, const std::vector<Text>& choices) const;
     [[nodiscard]] QWidget* CreateRadios(IntegerOption option, const std::vector<OptionChoice>& choices) const;
@@ -44,6 +45,7 @@ class OptionFields {
 
     [[nodiscard]] QWidget* CreateSwitch(IntegerOption option, const QString& text) const;
     [[nodiscard]] QWidget* CreateColor(IntegerOption option) const;
+    [[nodiscard]] QWidget* CreateWithAbsence(AccessOption option, QSpinBox* number) const;
     [[nodiscard]] QSpinBox* CreateNumber(const Range& range, int value,
                                          const std::function<void(int)>& store) const;
 

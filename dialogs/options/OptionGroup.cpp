@@ -3,6 +3,7 @@
 #include "platform/qt/QtConversion.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QLabel>
 
 namespace ondrilo {
@@ -45,7 +46,7 @@ QLineEdit* OptionGroup::Add(TextOption option) {
 }
 
 void OptionGroup::Add(AccessOption option) {
-    AddRow(ToQString(kAccessOptions[static_cast<std::size_t>(option)].label), fields.Create(option));
+    AddRow(LabelOf(option), fields.Create(option));
 }
 
 void OptionGroup::AddChoice(TextOption option, const std::vector<Text>& choices) {
@@ -73,6 +74,8 @@ void NameField(QWidget& field, const QString& label) {
     if (name.endsWith(':'))
         name.chop(1);
     field.setAccessibleName(name.trimmed());
+    for (auto* number : field.findChildren<QAbstractSpinBox*>())
+        number->setAccessibleName(field.accessibleName());
     for (auto* button : field.findChildren<QAbstractButton*>())
         button->setAccessibleName(QString("%1: %2").arg(field.accessibleName(), button->text()));
 }

@@ -21,8 +21,12 @@ class OptionsDraft : public QObject {
         properties.Set(option, value);
         Q_EMIT Changed();
     }
-    void Set(AccessOption option, int value) {
+    void Set(AccessOption option, std::optional<int> value) {
         access.Set(option, value);
+        Q_EMIT Changed();
+    }
+    void SetCueVoice(TextView voice) {
+        access.SetCueVoice(voice);
         Q_EMIT Changed();
     }
     void StoreTo(const PersonalOptions& options) const {

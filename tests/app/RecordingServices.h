@@ -3,15 +3,17 @@
 #include "app/SessionServices.h"
 #include "tests/support/Journal.h"
 
+#include <functional>
 #include <map>
+#include <utility>
 
 namespace ondrilo {
 
 /// Services that note what is asked of them.
 struct RecordingServices {
     explicit RecordingServices(Journal& journal)
-        : log(journal), metrics(), speech(journal), agent(journal), gps(journal), bluetooth(journal),
-          cooperation(journal), userRecord(journal) {}
+        : log(journal), metrics(), speech(journal), cueSpeech(journal), agent(journal), gps(journal),
+          bluetooth(journal), cooperation(journal), userRecord(journal) {}
 
     struct Noting {
         explicit Noting(Journal& journal) : journal(journal) {}
@@ -42,16 +44,26 @@ struct RecordingServices {
     };
     struct Speech : SpeechService, Noting {
         using Noting::Noting;
-        bool SelectVoice(TextView name) override {
+        bool SelectVoice(TextView name, const SpeechManner& newManner) override {
+            voice = name;
+            manner = newManner;
             journal.Note(Text("voice ").append(name));
             return true;
         }
         bool Speak(TextView text) override {
             spoken.emplace_back(text);
+            if (onSpeak)
+                onSpeak();
             return true;
         }
-        void Release() override { journal.Note("release voice"); }
+        void Release() override {
+            if (!std::exchange(voice, {}).empty())
+                journal.Note("release voice");
+        }
         std::vector<Text> spoken;
+        std::function<void()> onSpeak;
+        Text voice;
+        SpeechManner manner;
     };
     struct Character : Agent, Noting {
         using Noting::Noting;
@@ -116,13 +128,14 @@ struct RecordingServices {
     };
 
     [[nodiscard]] SessionServices All() {
-        return {log,     metrics,     speech,     agent,           gps,       bluetooth,
-                context, cooperation, userRecord, externalTargets, pictograms};
+        return {log,       metrics, speech,      cueSpeech,  agent,           gps,
+                bluetooth, context, cooperation, userRecord, externalTargets, pictograms};
     }
 
     Log log;
     Metrics metrics;
     Speech speech;
+    Speech cueSpeech;
     Character agent;
     Gps gps;
     Bluetooth bluetooth;

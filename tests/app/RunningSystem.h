@@ -13,6 +13,7 @@
 #include "tests/support/FakeOptionDialogs.h"
 #include "tests/support/FakeSessionWindows.h"
 #include "tests/support/FakeSounds.h"
+#include "tests/support/FakeSpeechEngine.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -82,8 +83,9 @@ class RunningSystem : public testing::Test {
     void SetOptions(TextView options) const { folder.Write("generico.cfg", Text(kOptions).append(options)); }
     [[nodiscard]] Environment Surroundings() {
         const DataFolder data(folder.Path());
-        return {data,          queue,     clock,  timers,   desktop,     keys,           boxes, dialogs,
-                optionDialogs, clipboard, sounds, programs, textMeasure, pictureMeasure, frame, windows};
+        return {data,     queue,       clock,          timers,    desktop, keys,
+                boxes,    dialogs,     optionDialogs,  clipboard, sounds,  speechEngine,
+                programs, textMeasure, pictureMeasure, frame,     windows};
     }
     void Start() {
         view = std::make_unique<CTessivorView>(Surroundings(), services.All());
@@ -157,6 +159,7 @@ class RunningSystem : public testing::Test {
     FakeOptionDialogs optionDialogs;
     FakeClipboard clipboard;
     FakeSounds sounds;
+    FakeSpeechEngine speechEngine;
     FakePrograms programs;
     FakeTextMeasure textMeasure;
     FakePictureMeasure pictureMeasure;

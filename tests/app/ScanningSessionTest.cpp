@@ -93,7 +93,7 @@ TEST_F(ScanningSessionTest, StepsAreHeardAndLogged) {
     services.log.written.clear();
     ScanTo(KeyOf("o"));
     EXPECT_EQ(sounds.beeps, 3);
-    EXPECT_EQ(services.speech.spoken, Texts("Palavras", "Letras", "letra ó"_w));
+    EXPECT_EQ(services.cueSpeech.spoken, Texts("Palavras", "Letras", "letra ó"_w));
     std::vector<Text> types;
     for (const auto& event : services.log.written)
         types.push_back(event.event + " " + event.type);

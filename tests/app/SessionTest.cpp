@@ -9,9 +9,9 @@ TEST_F(RunningSystem, TheSystemStartsInItsOrderAndShowsTheNoticeMeanwhile) {
     Start();
     EXPECT_EQ(journal.Take(),
               Texts("create notice", "open record", "gps com3", "bluetooth", "busy", "create notice",
-                    "destroy notice", "start log", "voice Joana", "create keyboard", "show window",
-                    "background", "agent Merlin", "create editor", "create preview", "redraw", "not busy",
-                    "activate", "destroy notice"));
+                    "destroy notice", "start log", "voice Joana", "voice Joana", "create keyboard",
+                    "show window", "background", "agent Merlin", "create editor", "create preview", "redraw",
+                    "not busy", "activate", "destroy notice"));
     EXPECT_EQ(windows.texts,
               Texts("Ondrilo a iniciar... Por favor aguarde.", "Quinta-feira 01-01-1970 00:00:00.000"));
     EXPECT_EQ(sounds.playedToEnd.size(), 1U);
@@ -26,9 +26,10 @@ TEST_F(RunningSystem, TheSystemEndsInItsOrderAndSavesTheProfile) {
     services.cooperation.up = true;
     Options().Set(option::TEMPO_DE_PREDICAO, 700);
     frame.listener->OnDestroy();
-    EXPECT_EQ(journal.Take(), Texts("close record", "stop bluetooth", "stop gps", "end log",
-                                    "end cooperation", "destroy preview", "destroy editor", "agent goes",
-                                    "destroy keyboard", "no background", "release voice", "redraw"));
+    EXPECT_EQ(journal.Take(),
+              Texts("close record", "stop bluetooth", "stop gps", "end log", "end cooperation",
+                    "destroy preview", "destroy editor", "agent goes", "destroy keyboard", "no background",
+                    "release voice", "release voice", "redraw"));
     EXPECT_FALSE(desktop.IsObserved());
     EXPECT_NE(folder.Read("generico.cfg").find("TEMPO_DE_PREDICAO 700\n"), Text::npos);
 }

@@ -105,6 +105,6 @@ std::unique_ptr<Area> Make(const std::filesystem::path& folder) {
 }
 
 extern const AreaMaker kKeyboardArea, kKeysArea, kLayoutArea, kLearningArea, kOptionsArea, kProfileArea,
-    kScanningArea, kSelectionArea, kTextArea, kWordSimulatorArea;
+    kScanningArea, kSelectionArea, kSpeechArea, kTextArea, kWordSimulatorArea;
 
 } // namespace ondrilo::conformance

@@ -65,6 +65,7 @@ const std::map<std::string, AreaMaker>& Areas() {
         {"profile", kProfileArea},
         {"scanning", kScanningArea},
         {"selection", kSelectionArea},
+        {"speech", kSpeechArea},
         {"text", kTextArea},
         {"word_simulator", kWordSimulatorArea},
     };

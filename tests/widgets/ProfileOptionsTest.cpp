@@ -2,6 +2,8 @@
 #include "dialogs/options/ColorField.h"
 #include "tests/support/FakeDesktop.h"
 #include "tests/support/FakeMessageBoxes.h"
+#include "tests/support/FakeSpeechEngine.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <QAbstractButton>
 #include <QColorDialog>
@@ -17,10 +19,16 @@ namespace {
 struct Choices : ProfileOptionSources {
     [[nodiscard]] std::vector<Text> KeyNames() const override { return {"Tab", "F11", "F12", "Num5"}; }
     [[nodiscard]] std::vector<Text> KeyboardNames() const override { return {"Numeros", "QwertySimples"}; }
-    [[nodiscard]] std::vector<Text> VoiceNames() const override { return {"Voz da Casa"}; }
+    [[nodiscard]] SpeechEngine& Speech() const override { return speech; }
+    [[nodiscard]] const DataFolder& Folder() const override { return data; }
+
+    mutable FakeSpeechEngine speech;
+    TemporaryFolder folder;
+    DataFolder data{folder.Path()};
 };
 
 struct ProfileOptionsTest : testing::Test {
+    ProfileOptionsTest() { choices.speech.voices = {"Voz da Casa"}; }
     void Open() {
         sheet = std::make_unique<CUserProfileOptionsPSheet>(PersonalOptions{properties, access}, choices,
                                                             DialogHost{desktop, boxes, record});
@@ -123,7 +131,7 @@ TEST_F(ProfileOptionsTest, ValuesOfAnotherHandSurviveUntouchedAndOnlyTimesAreBro
     Click("okButton");
     EXPECT_EQ(properties.Get(option::VELOCIDADE_VARRIMENTO), 3000);
     EXPECT_EQ(properties.Get(option::LATENCIA_INTERRUPTORES_VARRIMENTO), 0);
-    EXPECT_EQ(access.Get(access_option::TEMPO_PERMANENCIA), 1200);
+    EXPECT_EQ(access.DwellTime(), 1200);
     properties.Set(option::LATENCIA_INTERRUPTORES_VARRIMENTO, 100);
     EXPECT_EQ(properties.Format(), before);
 }
@@ -151,6 +159,7 @@ TEST_F(ProfileOptionsTest, TimeSpansAreRemovedOnlyWhenOneIsChosenAndTheAnswerIsY
     Open();
     auto* list = Find<QListWidget>("INTERVALOS_TEMPO_SABADO");
     Click("remove_INTERVALOS_TEMPO_DOMINGO");
+    list->setCurrentRow(0, QItemSelectionModel::NoUpdate); // as the focus does
     Click("remove_INTERVALOS_TEMPO_SABADO");
     list->setCurrentRow(1);
     boxes.answers = {Answer::No, Answer::Yes, Answer::Yes};
@@ -167,6 +176,52 @@ TEST_F(ProfileOptionsTest, TimeSpansAreRemovedOnlyWhenOneIsChosenAndTheAnswerIsY
     Click("okButton");
     EXPECT_EQ(properties.Get(option::INTERVALOS_TEMPO_SABADO), "08:00-09:00;22:00-02:00");
     EXPECT_EQ(properties.Get(option::IDENTIFICADOR_ETIQUETA_BLUETOOTH), "");
+}
+
+TEST_F(ProfileOptionsTest, AVoiceThatIsNotListedStaysChosenAndVoicesMayComeLate) {
+    properties.Set(option::NOME_SINTETIZADOR_FALA, "Voz Tardia");
+    access.SetCueVoice("Voz Levada");
+    choices.speech.voices.clear();
+    Open();
+    auto* voice = Find<QComboBox>("NOME_SINTETIZADOR_FALA");
+    EXPECT_EQ(voice->currentText(), "Voz Tardia");
+    Click("okButton");
+    EXPECT_EQ(properties.Get(option::NOME_SINTETIZADOR_FALA), "Voz Tardia");
+
+    Open();
+    choices.speech.voices = {"Voz da Casa", "Voz Tardia"};
+    voice = Find<QComboBox>("NOME_SINTETIZADOR_FALA");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return voice->count() == 3; }));
+    EXPECT_EQ(voice->itemText(0), "Nenhum");
+    EXPECT_EQ(voice->currentText(), "Voz Tardia");
+    EXPECT_EQ(Find<QComboBox>("VOZ_PISTAS")->currentText(), "Voz Levada (não disponível)");
+    Click("okButton");
+    EXPECT_EQ(properties.Get(option::NOME_SINTETIZADOR_FALA), "Voz Tardia");
+    EXPECT_EQ(access.CueVoice(), "Voz Levada");
+}
+
+TEST_F(ProfileOptionsTest, AVoiceIsTriedInTheMannerOfTheDraftAndAbsentValuesStayAbsent) {
+    access.Parse("TOM_FALA 20\nVOLUME_PISTAS -30\n");
+    const auto before = access.Format();
+    Open();
+    Click("hearVoice");
+    Click("speechExceptions");
+    const Text noVoice("Não se encontra selecionado um sintetizador de falar!"_w);
+    EXPECT_EQ(boxes.shown, (std::vector{noVoice, noVoice}));
+    EXPECT_TRUE(choices.speech.said.empty());
+
+    Find<QComboBox>("NOME_SINTETIZADOR_FALA")->setCurrentIndex(1);
+    Click("TOM_FALA_absent");
+    Click("VOLUME_FALA_absent");
+    Find<QSpinBox>("VOLUME_FALA")->setValue(70);
+    Click("hearVoice");
+    EXPECT_EQ(choices.speech.said.back().voice, "Voz da Casa");
+    EXPECT_EQ(choices.speech.said.back().manner, (SpeechManner{std::nullopt, std::nullopt, 70}));
+    Click("hearCue");
+    EXPECT_EQ(choices.speech.said.back().manner.volume, -30);
+    EXPECT_EQ(access.Format(), before);
+    Click("okButton");
+    EXPECT_EQ(access.Format(), "VOLUME_FALA 70\nVOLUME_PISTAS -30\n");
 }
 
 } // namespace
