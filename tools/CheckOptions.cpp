@@ -65,6 +65,12 @@ bool CheckRange(CheckedFile& file, TextView word, int least, int most) {
     return false;
 }
 
+/// More words than are read.
+void TellLost(CheckedFile& file, TextView lastRead, bool mayHaveBlanks) {
+    file.Tell("what follows " + Quoted(lastRead) + " is lost" +
+              (mayHaveBlanks ? "; blanks are written as \";;;\"" : ""));
+}
+
 class ProfileCheck {
   public:
     ProfileCheck(const DataFolder& folder, TextView name, CheckReport& report)
@@ -97,8 +103,7 @@ class ProfileCheck {
         else
             CheckReal(words[1]);
         if (words.size() > 2)
-            file.Tell("what follows " + Quoted(words[1]) + " is lost" +
-                      (option.kind == OptionKind::SpacedText ? "; blanks are written as \";;;\"" : ""));
+            TellLost(file, words[1], option.kind == OptionKind::SpacedText);
     }
 
     void CheckInteger(const ProfileOption& option, TextView word) {
@@ -149,18 +154,19 @@ void CheckAccessOptions(const DataFolder& folder, TextView name, CheckReport& re
     CheckedFile file(report, folder, name, kOptionLineLimit);
     CheckOptionLines(file, [&](const std::vector<TextView>& words) {
         const auto* option = std::ranges::find(kAccessOptions, words[0], &AccessOptionRow::key);
-        if (option == std::end(kAccessOptions)) {
+        const bool isNumber = option != std::end(kAccessOptions);
+        if (!isNumber && words[0] != kCueVoiceKey) {
             file.Tell(Quoted(words[0]) + " is no option: skipped");
             return false;
         }
         if (words.size() < 2)
-            file.Tell(Text(option->key) + " has no value: read as 0");
-        else if (CheckRange(file, words[1], option->least, option->most) &&
+            file.Tell(Text(words[0]) + " has no value: read as " + (isNumber ? "0" : "empty"));
+        else if (isNumber && CheckRange(file, words[1], option->least, option->most) &&
                  *FieldScanner(words[1]).Integer() % option->step != 0)
             file.Tell(Quoted(words[1]) + " is no multiple of " + std::to_string(option->step) +
                       ": rounded down");
         if (words.size() > 2)
-            file.Tell("what follows " + Quoted(words[1]) + " is lost");
+            TellLost(file, words[1], !isNumber);
         return true;
     });
 }

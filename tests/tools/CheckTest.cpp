@@ -132,13 +132,14 @@ TEST_F(Check, TellsOptionsThatAreUnknownUnreadableOrOutOfRange) {
 
 TEST_F(Check, TellsAccessOptionsThatWouldNotHoldAsTheyStand) {
     folder.Write("ana.acs", "# nota\nTEMPO_PERMANENCIA 10100\nTEMPO_PERMANENCIA 250\nCHAVE 1\n"
-                            "TEMPO_PERMANENCIA 2s\n");
-    folder.Write("rui.acs", "TEMPO_PERMANENCIA 10000\n");
+                            "TEMPO_PERMANENCIA 2s\nTOM_FALA 101\nVOZ_PISTAS Voz Baixa\n");
+    folder.Write("rui.acs", "TEMPO_PERMANENCIA 10000\nVOLUME_PISTAS -100\nVOZ_PISTAS Voz;;;Baixa\n");
     EXPECT_THAT(Of("ana.acs", Options()),
                 ElementsAre(HasSubstr("2: \"10100\" is outside 0 to 10000"),
                             HasSubstr("3: \"250\" is no multiple of 100"), HasSubstr("3: replaces line 2"),
                             HasSubstr("4: \"CHAVE\" is no option"), HasSubstr("5: \"2s\" is"),
-                            HasSubstr("5: replaces line 2")));
+                            HasSubstr("5: replaces line 2"), HasSubstr("6: \"101\" is outside -100 to 100"),
+                            HasSubstr("7: what follows \"Voz\" is lost")));
     EXPECT_THAT(Of("rui.acs", Options()), IsEmpty());
 }
 
