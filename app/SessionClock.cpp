@@ -38,6 +38,11 @@ void SessionClock::StopTimers() {
     timer.reset();
 }
 
+void SessionClock::RestartSilence() {
+    if (!countdowns.idle.IsStopped())
+        countdowns.idle.Restart();
+}
+
 void SessionClock::OnTimer() {
     if (countdowns.target.Tick(kFocusSettles)) {
         countdowns.target.Stop();

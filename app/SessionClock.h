@@ -25,6 +25,8 @@ class SessionClock {
     /// Tells the person if no timer can be had; the session then goes on without a clock.
     void StartTimers();
     void StopTimers();
+    /// The limit of the person's silence changed: what is already longer would never be due.
+    void RestartSilence();
 
   private:
     void OnTimer();

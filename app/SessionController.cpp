@@ -3,6 +3,8 @@
 #include "app/AgentPlace.h"
 #include "app/Notice.h"
 
+#include <utility>
+
 namespace ondrilo {
 namespace {
 
@@ -80,8 +82,14 @@ void SessionController::ReleaseVoices() {
 void SessionController::StartAgent() {
     if (!Options().IsOn(option::AGENTE_ACTIVO))
         return;
-    if (!services.agent.Start(Options().Get(option::NOME_AGENTE), AgentPlace(frame)))
+    hasAgent = services.agent.Start(Options().Get(option::NOME_AGENTE), AgentPlace(frame));
+    if (!hasAgent)
         profiles.Active().Set(option::AGENTE_ACTIVO, 0);
+}
+
+void SessionController::StopAgent() {
+    if (std::exchange(hasAgent, false))
+        services.agent.Stop();
 }
 
 void SessionController::CreatePreview() {
@@ -107,8 +115,7 @@ void SessionController::StopSession() {
     clock->StopTimers();
     preview.Destroy();
     targetController.StopFollowing();
-    if (Options().IsOn(option::AGENTE_ACTIVO))
-        services.agent.Stop();
+    StopAgent();
     keyboards.CloseKeyboard();
     placement.ClearBackground();
     ReleaseVoices();
@@ -145,8 +152,12 @@ void SessionController::ApplyOptions(const CUserProfileProperties& before) {
     if (changed(option::REGISTAR_EVENTOS))
         Options().IsOn(option::REGISTAR_EVENTOS) ? logging.StartLog() : logging.EndLog();
     SelectVoices();
-    if (changed(option::AGENTE_ACTIVO, option::NOME_AGENTE))
-        ReplaceAgent(before);
+    if (changed(option::AGENTE_ACTIVO, option::NOME_AGENTE)) {
+        StopAgent();
+        StartAgent();
+    }
+    if (changed(option::TEMPO_INACTIVIDADE_COMUNICACAO))
+        clock->RestartSilence();
     if (changed(option::INICIAR_JANELA_MAXIMIZADA, option::INICIAR_JANELA_MINIMIZADA,
                 option::POSICAO_INICIAL_JANELA_X, option::POSICAO_INICIAL_JANELA_Y))
         placement.SetUpWindow();
@@ -158,12 +169,6 @@ void SessionController::ApplyOptions(const CUserProfileProperties& before) {
     CreatePreview();
     placement.RefreshTitle();
     frame.Redraw();
-}
-
-void SessionController::ReplaceAgent(const CUserProfileProperties& before) {
-    if (before.IsOn(option::AGENTE_ACTIVO))
-        services.agent.Stop();
-    StartAgent();
 }
 
 } // namespace ondrilo

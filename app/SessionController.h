@@ -41,7 +41,7 @@ class SessionController {
     void StartWithOwnKeyboard();
     void ReleaseVoices();
     void StartAgent();
-    void ReplaceAgent(const CUserProfileProperties& before);
+    void StopAgent();
     void CreatePreview();
     [[nodiscard]] const CUserProfileProperties& Options() const { return profiles.Active().properties; }
 
@@ -65,6 +65,7 @@ class SessionController {
     SessionServices services;
     SessionClock* clock = nullptr;
     bool running = false;
+    bool hasAgent = false; ///< a character is on show, whatever the options say by now
 };
 
 } // namespace ondrilo

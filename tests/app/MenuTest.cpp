@@ -105,7 +105,7 @@ TEST_F(MenuTest, AnotherPortOrMechanismRestartsItsSource) {
 TEST_F(MenuTest, ANewProfileIsMadeFromTheTemplateAndTakesOver) {
     folder.Write("base.cfg", "NOME_TECLADO outro\n");
     StartWriting();
-    for (const TextView name : {"", "ana rita", "ana", "generico", "geral", "base", "a/b"}) {
+    for (const TextView name : {"", "ana rita", "ana", "generico", "geral", "base", "a/b", "?ukasz", "a;b"}) {
         dialogs.newProfile = name;
         Choose(menu::NewProfile);
     }
@@ -150,10 +150,21 @@ TEST_F(MenuTest, ChangedOptionsShowAtOnceAndTheTextStays) {
     EXPECT_EQ(Written(), "x");
 }
 
+TEST_F(MenuTest, AShorterSilenceCountsAtOnce) {
+    folder.Write("configsis", "ADAPTACAO_CONTEXTO 1\n");
+    StartWriting("TEMPO_INACTIVIDADE_COMUNICACAO 60\n");
+    Tick(100);
+    ChangeOptions(
+        [](const auto& options) { options.properties.Set(option::TEMPO_INACTIVIDADE_COMUNICACAO, 1); });
+    Tick(60);
+    EXPECT_GT(services.context.asked, 0);
+}
+
 TEST_F(MenuTest, CopiedOptionsTakeEffectInThePersonsOwnProfile) {
-    StartWriting();
+    StartWriting("AGENTE_ACTIVO 1\n");
     dialogs.chosenProfile = "ana";
     Choose(menu::CopyProfileOptions);
+    EXPECT_TRUE(journal.Has("agent goes")) << "the copied options know nothing of it";
     EXPECT_EQ(Options().profileName, "generico");
     EXPECT_NE(folder.Read("generico.cfg").find("TECLAS_COMPLETAR 48\n"), Text::npos);
     EXPECT_EQ(windows.notice.text, "A carregar perfil... Por favor aguarde.");
