@@ -40,7 +40,7 @@ CMainFrame::CMainFrame(MessageQueue& queue, const KeyOutput& layout)
     connect(view, &ViewWidget::resized, this, &CMainFrame::OnViewResized);
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state == Qt::ApplicationInactive)
-            SetAcceptsFocus(false);
+            ForbidFocus(true);
     });
     settleTimer.setSingleShot(true);
     settleTimer.setInterval(kSettleTime);
@@ -61,7 +61,14 @@ void CMainFrame::SetTopMost(bool topMost) {
 }
 
 void CMainFrame::SetAcceptsFocus(bool accepts) {
-    windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus, !accepts);
+    // A session that starts anew beside the program that the person writes in leaves the focus there. Who
+    // goes to the editor activates the window.
+    if (!accepts || !activated)
+        ForbidFocus(!accepts);
+}
+
+void CMainFrame::ForbidFocus(bool forbidden) {
+    windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus, forbidden);
 }
 
 void CMainFrame::ShowCaption(bool visible) {
@@ -79,7 +86,7 @@ void CMainFrame::ShowStatusBar(bool visible) {
 void CMainFrame::Activate() {
     if (isActiveWindow())
         return;
-    SetAcceptsFocus(true);
+    ForbidFocus(false);
     raise();
     activateWindow();
 }

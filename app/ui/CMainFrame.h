@@ -59,6 +59,7 @@ class CMainFrame : public QMainWindow, public FrameWindow {
     /// Calls the listener from the event loop, unless there is none by then.
     void TellLater(void (FrameWindowListener::*what)());
     void CloseWhenFree();
+    void ForbidFocus(bool forbidden);
     void Settle();
     void OnExposed();
     void OnViewResized();

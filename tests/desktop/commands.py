@@ -166,6 +166,8 @@ def beside_another_program(desktop, ondrilo, proof):
     wait_for(lambda: proof.read_text() == 'guião\nprograma\n', 'the application')
     terminal.expect(b'\x01\x03\raB\t\x1b[Dapa')
     ondrilo.expect_text('apa')
+    click('ana')
+    click('mal')
     return terminal
 
 
