@@ -71,6 +71,7 @@ QWidget* CSystemOptionsDlg::CreatePriorities() {
     priorities->setMinimumHeight(kListRows * priorities->fontMetrics().lineSpacing());
     auto* label = new QLabel(tr("&Prioridade dos Perfis na Adaptação ao Contexto:"));
     label->setBuddy(priorities);
+    priorities->setAccessibleName(tr("Prioridade dos Perfis na Adaptação ao Contexto"));
     auto* buttons = new QVBoxLayout;
     buttons->addWidget(CreateButton(tr("A&dicionar..."), "addPriority", &CSystemOptionsDlg::AddPriority));
     buttons->addWidget(CreateButton(tr("&Remover"), "removePriority", &CSystemOptionsDlg::RemovePriority));
