@@ -70,6 +70,7 @@ void CSpeechSynthesizerPPage::AddVoice() {
     group.Add(access_option::VELOCIDADE_FALA);
     group.Add(access_option::TOM_FALA);
     group.Add(access_option::VOLUME_FALA);
+    group.AddNote(tr("Velocidade, tom e volume vão de -100 a 100."));
     group.AddWide(InARow({hear, exceptions}));
 }
 
@@ -83,6 +84,7 @@ void CSpeechSynthesizerPPage::AddCueVoice() {
     auto& group = AddGroup(tr("Pistas do Varrimento"));
     group.AddRow(tr("Voz das Pistas:"), cueVoice);
     group.Add(access_option::VOLUME_PISTAS);
+    group.AddNote(tr("As pistas ligam-se na área Varrimento."));
     group.AddWide(InARow({hear}));
 }
 
