@@ -75,9 +75,10 @@ void NameField(QWidget& field, const QString& label) {
         name.chop(1);
     field.setAccessibleName(name.trimmed());
     for (auto* number : field.findChildren<QAbstractSpinBox*>())
-        number->setAccessibleName(field.accessibleName());
+        if (number->accessibleName().isEmpty())
+            number->setAccessibleName(field.accessibleName());
     for (auto* button : field.findChildren<QAbstractButton*>())
-        button->setAccessibleName(QString("%1: %2").arg(field.accessibleName(), button->text()));
+        button->setAccessibleName(QString("%1: %2").arg(field.accessibleName(), button->text().remove('&')));
 }
 
 } // namespace ondrilo
