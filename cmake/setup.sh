@@ -21,6 +21,13 @@ install_packages() {
     as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}"
 }
 
+# Whether there is a sound server (its socket, or one named elsewhere) or at least a sound card.
+has_sound() {
+    local runtime=${XDG_RUNTIME_DIR:-/run/user/$(id -u)}
+    [ -n "${PULSE_SERVER:-}" ] || [ -S "$runtime/pulse/native" ] || [ -S "$runtime/pipewire-0" ] ||
+        grep -qs '^ *[0-9]' /proc/asound/cards
+}
+
 # build PRESET [TARGET...]
 build() {
     local preset=$1
