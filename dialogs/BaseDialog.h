@@ -33,6 +33,7 @@ enum class DialogNumber {
     Abbreviations,
     WordSimulator,
     SpeechExceptions,
+    Metrics,
 };
 
 /// The base of all dialogs: the person's content above a row of buttons, at whose left end there is room for

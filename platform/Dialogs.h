@@ -43,6 +43,8 @@ class Dialogs {
     [[nodiscard]] virtual bool EditEntries(EntryList& entries) = 0;
     /// "Simulador de Predição de Palavras"; returns when it is closed.
     virtual void SimulateWords(Simulator& simulator) = 0;
+    /// "Métricas do Sistema": one line a metric.
+    virtual void ShowMetrics(const std::vector<Text>& lines) = 0;
     /// Tells what the program is.
     virtual void ShowAbout() = 0;
 };

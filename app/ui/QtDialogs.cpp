@@ -1,6 +1,7 @@
 #include "app/ui/QtDialogs.h"
 
 #include "dialogs/CAboutDlg.h"
+#include "dialogs/CMetricsDlg.h"
 #include "dialogs/CNewUserProfileDlg.h"
 #include "dialogs/CSystemChangesPasswordDlg.h"
 #include "dialogs/CUserDlg.h"
@@ -40,6 +41,10 @@ bool QtDialogs::EditEntries(EntryList& entries) {
 
 void QtDialogs::SimulateWords(Simulator& simulator) {
     (void)CWordPredictionSimulatorDlg(host, simulator).Run();
+}
+
+void QtDialogs::ShowMetrics(const std::vector<Text>& lines) {
+    (void)CMetricsDlg(host, lines).Run();
 }
 
 void QtDialogs::ShowAbout() {

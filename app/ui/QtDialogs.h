@@ -16,6 +16,7 @@ class QtDialogs : public Dialogs {
     [[nodiscard]] std::optional<std::filesystem::path> ChooseFolder(TextView title) override;
     [[nodiscard]] bool EditEntries(EntryList& entries) override;
     void SimulateWords(Simulator& simulator) override;
+    void ShowMetrics(const std::vector<Text>& lines) override;
     void ShowAbout() override;
 
   private:

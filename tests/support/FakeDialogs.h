@@ -29,6 +29,7 @@ class FakeDialogs : public Dialogs {
         if (inSimulator)
             inSimulator(simulator);
     }
+    void ShowMetrics(const std::vector<Text>& lines) override { shownMetrics = lines; }
     void ShowAbout() override { ++abouts; }
 
     std::optional<Text> chosenProfile;
@@ -41,6 +42,7 @@ class FakeDialogs : public Dialogs {
     Text folderTitle;
     std::function<bool(EntryList&)> inEntries;   ///< what the person does in the window; true: OK
     std::function<void(Simulator&)> inSimulator; ///< what the person does in the window
+    std::vector<Text> shownMetrics;
     int abouts = 0;
 };
 
