@@ -61,6 +61,8 @@ class Desktop:
         for name in ('QT_QPA_PLATFORM', 'QT_SCALE_FACTOR', 'WAYLAND_DISPLAY', 'XAUTHORITY', 'SESSION_MANAGER'):
             os.environ.pop(name, None)
         os.environ['QT_LINUX_ACCESSIBILITY_ALWAYS_ON'] = '1'
+        # Where nobody listens: a service that the program starts by itself would outlast the story.
+        os.environ['SPEECHD_ADDRESS'] = 'unix_socket:%s' % (self.folder / 'silence')
         # Without "-noreset" the server starts anew when a look at it ends, and turns away who comes meanwhile.
         os.environ['DISPLAY'] = ':' + self._answer(['Xvfb', '-displayfd', '1', '-screen', '0', SCREEN,
                                                     '-nolisten', 'tcp', '-noreset'])
