@@ -73,7 +73,7 @@ void AbbreviationController::Log(const Source& source, TextView type, TextView e
         text += "_" + targets.Current()->GetCurrentWordLeft();
     if (!expansion.empty())
         text.append("_").append(expansion);
-    events.ActionWithText(source.origin, "", text, source.key);
+    events.Action(source.origin, text, source.key);
 }
 
 } // namespace ondrilo

@@ -19,7 +19,7 @@ CTessivorView::CTessivorView(const Environment& environment, const SessionServic
       userProfiles(environment.dataFolder, environment.boxes, environment.dialogs,
                    [this](TextView text) { this->environment.frame.SetStatusMessage(text); }),
       keyboardSimulator(environment.keys), writingClock(environment.clock),
-      events(services.log, userProfiles, environment.keys),
+      events(environment, services.log, userProfiles, targets, keyboard, state),
       specialKeys(userProfiles, keyboardSimulator.keySet, targets),
       predictionKeys(keyboard, predictions, specialKeys, userProfiles),
       cycle(userProfiles, targets, predictions, predictionKeys, services),
@@ -30,7 +30,7 @@ CTessivorView::CTessivorView(const Environment& environment, const SessionServic
       scanning(environment, userProfiles, keyboard, speech, events),
       keyboards(environment, userProfiles, keyboard, predictionKeys, predictions, placement, sender, speech,
                 scanning, events, countdowns, services),
-      logging(environment, userProfiles, writingClock, state, services),
+      logging(environment, userProfiles, targets, scanning, writingClock, state, services),
       targetController(environment, userProfiles, targets, specialKeys, preview, cycle, sender,
                        keyboardSimulator, countdowns, events, services),
       completion(userProfiles, targets, predictionKeys, keyboard, cycle, learning, keyboardSimulator, state,
@@ -55,8 +55,8 @@ CTessivorView::CTessivorView(const Environment& environment, const SessionServic
       vocabulary(environment, userProfiles, predictions, cycle), bulkLearning(environment, userProfiles),
       systemOptionsController(environment, userProfiles, systemOptions, placement, events, services),
       simulators(environment, userProfiles, cycle),
-      menuController(environment, systemOptions, keyboard, profileController, vocabulary, bulkLearning,
-                     systemOptionsController, simulators, chrome, countdowns, services) {
+      menuController(environment, systemOptions, keyboard, profileController, vocabulary, logging,
+                     bulkLearning, systemOptionsController, simulators, chrome, countdowns, services) {
     session.SetClock(clock);
     environment.frame.SetListener(this);
 }

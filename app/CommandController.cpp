@@ -55,8 +55,7 @@ void CommandController::ExecuteCommand(COnScreenKeyIdentifier key, const ActionO
 }
 
 void CommandController::ClearEditor() {
-    if (targets.Internal())
-        services.log.AddFinalText(targets.Internal()->GetTextWithTags());
+    logging.KeepFinalText();
     if (targets.IsInternal())
         targets.Internal()->ClearAll();
     cycle.RunPrediction();
@@ -97,7 +96,7 @@ void CommandController::SpeakAll(const ActionOrigin& origin) {
 
 void CommandController::LogSpoken(const ActionOrigin& origin, TextView what, TextView text) {
     if (events.IsOpen() && !text.empty())
-        events.ActionWithText(origin, Text("COMMAND_EXECUTION_SYNTHESIZE_").append(what), text);
+        events.Action(origin, Text("COMMAND_EXECUTION_SYNTHESIZE_").append(what).append(text));
 }
 
 void CommandController::SendMessage() {
@@ -119,7 +118,7 @@ void CommandController::SwitchLogging() {
 
 void CommandController::ExecuteKeySequence(COnScreenKeyIdentifier key, const ActionOrigin& origin) {
     const auto sequence = keyboard.Key(key).data.output;
-    events.ActionWithText(origin, "KEY_SEQUENCE_EXECUTION_", sequence, key);
+    events.Action(origin, "KEY_SEQUENCE_EXECUTION_" + sequence, key);
     if (targets.Current()) // nobody else tells of the keys
         state.pendingSimulatedKeys += CKeyboard::CountSequenceKeys(sequence);
     keyboardSimulator.PlaySequence(sequence);
@@ -127,7 +126,7 @@ void CommandController::ExecuteKeySequence(COnScreenKeyIdentifier key, const Act
 
 void CommandController::ExecuteProgram(COnScreenKeyIdentifier key, const ActionOrigin& origin) {
     const auto program = keyboard.Key(key).data.output;
-    events.ActionWithText(origin, "PROGRAM_EXECUTION_", program, key);
+    events.Action(origin, "PROGRAM_EXECUTION_" + program, key);
     programs.Start(program);
 }
 

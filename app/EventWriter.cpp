@@ -20,8 +20,15 @@ constexpr std::array<NamedCharacter, 5> kNamedCharacters{{{'\b', "\\b", "CHAR_RE
 
 } // namespace
 
-EventWriter::EventWriter(EventLog& log, const CUserProfileSet& profiles, const KeyOutput& keys)
-    : log(log), profiles(profiles), keys(keys) {
+EventWriter::EventWriter(const Environment& environment, EventLog& log, const CUserProfileSet& profiles,
+                         const Targets& targets, const COnScreenKeyboard& keyboard, SessionState& state)
+    : frame(environment.frame), keys(environment.keys), log(log), profiles(profiles), targets(targets),
+      keyboard(keyboard), state(state) {
+}
+
+void EventWriter::Write(TextView event, TextView type, const Element& element) {
+    log.Write(
+        {"", Text(event), Text(type), element.address, element.center, Page(), state.context.Current()});
 }
 
 Text EventWriter::KeyEvent(int code) const {
@@ -46,31 +53,45 @@ Text EventWriter::EventOf(const ActionOrigin& origin) const {
     return method == "Inverso" ? "SWITCH1_UP" : "SWITCH2_DOWN";
 }
 
+EventWriter::Element EventWriter::ElementOf(COnScreenKeyIdentifier key) const {
+    const auto place = keyboard.PlaceOf(key);
+    const auto origin = frame.ViewOrigin();
+    const int x = origin.x + keyboard.Position().x + place.x + place.width / 2;
+    const int y = origin.y + keyboard.Position().y + place.y + place.height / 2;
+    return {std::to_string(key.line) + "." + std::to_string(key.group) + "." + std::to_string(key.key),
+            std::to_string(x) + "." + std::to_string(y)};
+}
+
 void EventWriter::Action(const ActionOrigin& origin, TextView type,
                          std::optional<COnScreenKeyIdentifier> key) {
     if (IsOpen())
-        log.Write({"", EventOf(origin), Text(type), key});
+        Write(EventOf(origin), type, key ? ElementOf(*key) : Element());
 }
 
-void EventWriter::ActionWithText(const ActionOrigin& origin, TextView prefix, TextView text,
-                                 std::optional<COnScreenKeyIdentifier> key) {
+void EventWriter::LineSelected(int line) {
     if (IsOpen())
-        log.Write({"", EventOf(origin), Text(prefix) + Replace(text, " ", "_"), key});
+        Write(EventOf(ActionOrigin::OfSwitch()), "LINE_SELECTION", {std::to_string(line), ""});
+}
+
+void EventWriter::GroupSelected(int line, int group) {
+    if (IsOpen())
+        Write(EventOf(ActionOrigin::OfSwitch()), "GROUP_SELECTION",
+              {std::to_string(line) + "." + std::to_string(group), ""});
 }
 
 void EventWriter::Event(TextView event, TextView type) {
     if (IsOpen())
-        log.Write({"", Text(event), Replace(type, " ", "_"), {}});
+        Write(event, type, {});
 }
 
 void EventWriter::TypedKey(int code, bool simulated) {
     if (IsOpen())
-        log.Write({"", KeyEvent(code), simulated ? "AUTO_KEY" : "KEY", {}});
+        Event(KeyEvent(code), simulated ? "AUTO_KEY" : "KEY");
 }
 
 void EventWriter::RawKey(int code) {
     if (IsOpen())
-        log.Write({"", KeyEvent(code), "RAW_KEY_DOWN", {}});
+        Event(KeyEvent(code), "RAW_KEY_DOWN");
 }
 
 void EventWriter::RawButton(int button) {
@@ -78,23 +99,38 @@ void EventWriter::RawButton(int button) {
         return;
     constexpr std::array<TextView, 3> names{"LEFT", "RIGHT", "MID"};
     const auto event = Text(names.at(static_cast<std::size_t>(button))) + "_MOUSE_BUTTON_DOWN";
-    log.Write({"", event, "RAW_" + event, {}});
+    Event(event, "RAW_" + event);
 }
 
 void EventWriter::Character(char c) {
-    if (!IsOpen())
+    if (!IsOpen() || IsSecret())
         return;
+    Text output(1, c);
+    Text event = "CHAR_" + output;
     for (const auto& named : kNamedCharacters)
         if (named.character == c) {
-            log.Write({Text(named.output), Text(named.event), "CHAR", {}});
-            return;
+            output = named.output;
+            event = named.event;
         }
-    log.Write({Text(1, c), Text("CHAR_") + c, "CHAR", {}});
+    log.Write({output, event, "CHAR", "", "", Page(), state.context.Previous()});
 }
 
 void EventWriter::UpdateContext() {
-    if (IsOpen())
-        log.UpdateContext();
+    if (!IsOpen())
+        return;
+    const auto* target = targets.Current();
+    if (!target || IsSecret())
+        return state.context.Clear();
+    const auto sentence = target->GetWrittenSentence();
+    state.context.Update(sentence.empty() ? target->GetTextWithLabels() : sentence);
+}
+
+bool EventWriter::IsSecret() const {
+    return targets.Current() && targets.Current()->IsPassword();
+}
+
+const Text& EventWriter::Page() const {
+    return profiles.Active().properties.activeKeyboardName;
 }
 
 } // namespace ondrilo

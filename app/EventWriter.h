@@ -1,7 +1,10 @@
 #pragma once
 
+#include "app/Environment.h"
+#include "app/SessionState.h"
+#include "app/Targets.h"
+#include "keyboards/COnScreenKeyboard.h"
 #include "logging/EventLog.h"
-#include "platform/Keyboard.h"
 #include "profiles/store/CUserProfileSet.h"
 
 #include <optional>
@@ -22,30 +25,45 @@ struct ActionOrigin {
 /// Writes what happens into the event log, if one is open. Callers that build a text for it ask IsOpen first.
 class EventWriter {
   public:
-    EventWriter(EventLog& log, const CUserProfileSet& profiles, const KeyOutput& keys);
+    EventWriter(const Environment& environment, EventLog& log, const CUserProfileSet& profiles,
+                const Targets& targets, const COnScreenKeyboard& keyboard, SessionState& state);
 
     [[nodiscard]] bool IsOpen() const { return log.IsOpen(); }
     /// An action with its origin in the event column.
     void Action(const ActionOrigin& origin, TextView type, std::optional<COnScreenKeyIdentifier> key = {});
-    /// `prefix` and the text, its blanks as "_".
-    void ActionWithText(const ActionOrigin& origin, TextView prefix, TextView text,
-                        std::optional<COnScreenKeyIdentifier> key = {});
+    void LineSelected(int line);
+    void GroupSelected(int line, int group);
     /// An event that has no origin of its own.
     void Event(TextView event, TextView type);
     /// A physical key that wrote, by the person or by the system.
     void TypedKey(int code, bool simulated);
     void RawKey(int code);
     void RawButton(int button);
+    /// One that has just reached the text.
     void Character(char c);
+    /// Takes the message as it is now for the context of the next events.
     void UpdateContext();
 
   private:
+    struct Element {
+        Text address;
+        Text center;
+    };
+    void Write(TextView event, TextView type, const Element& element);
+    /// What a person writes into a password field stays out of the log.
+    [[nodiscard]] bool IsSecret() const;
+    [[nodiscard]] const Text& Page() const;
     [[nodiscard]] Text EventOf(const ActionOrigin& origin) const;
     [[nodiscard]] Text KeyEvent(int code) const;
+    [[nodiscard]] Element ElementOf(COnScreenKeyIdentifier key) const;
 
+    const FrameWindow& frame;
+    const KeyOutput& keys;
     EventLog& log;
     const CUserProfileSet& profiles;
-    const KeyOutput& keys;
+    const Targets& targets;
+    const COnScreenKeyboard& keyboard;
+    SessionState& state;
 };
 
 } // namespace ondrilo

@@ -67,6 +67,8 @@ class FrameWindow {
     [[nodiscard]] virtual Rectangle Frame() const = 0;
     /// Top left corner of the whole window; the size stays.
     virtual void MoveTo(Point position) = 0;
+    /// Top left corner of the view on the screen.
+    [[nodiscard]] virtual Point ViewOrigin() const = 0;
     /// The size of the view.
     [[nodiscard]] virtual Size ClientSize() const = 0;
     /// Resizes the window, so that the view gets this size; menu, status line and decorations come on top.

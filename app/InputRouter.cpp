@@ -163,14 +163,14 @@ bool InputRouter::SwitchUp(int code) {
 void InputRouter::SpeakWordByKey(int code) {
     const auto spoken = speech.SpeakWordOrImage();
     if (!spoken.text.empty())
-        events.ActionWithText(ActionOrigin::Key(code),
-                              spoken.isImage ? "SYNTHESIZE_IMAGE_" : "SYNTHESIZE_WORD_", spoken.text);
+        events.Action(ActionOrigin::Key(code),
+                      Text(spoken.isImage ? "SYNTHESIZE_IMAGE_" : "SYNTHESIZE_WORD_") + spoken.text);
 }
 
 void InputRouter::SpeakSentenceByKey(int code) {
     const auto spoken = speech.SpeakCurrentSentence();
     if (!spoken.empty())
-        events.ActionWithText(ActionOrigin::Key(code), "SYNTHESIZE_SENTENCE_", spoken);
+        events.Action(ActionOrigin::Key(code), "SYNTHESIZE_SENTENCE_" + spoken);
 }
 
 void InputRouter::KeyUp(int code) {

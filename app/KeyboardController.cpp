@@ -82,7 +82,7 @@ bool KeyboardController::WantsToKeepChanges() {
 void KeyboardController::FollowKeyboardLink(COnScreenKeyIdentifier key, const ActionOrigin& origin) {
     auto name = keyboard.Key(key).data.output;
     name.resize(name.size() - kExtension.size());
-    events.ActionWithText(origin, "ON_SCREEN_KEYBOARD_CALL_", name, key);
+    events.Action(origin, "ON_SCREEN_KEYBOARD_CALL_" + name, key);
     if (services.log.IsOpen())
         services.metrics.Count(Metric::KeyboardByKey);
     CloseKeyboard();

@@ -21,17 +21,19 @@ Text FormatMoment(const LocalTime& time) {
 } // namespace
 
 LoggingController::LoggingController(const Environment& environment, const CUserProfileSet& profiles,
+                                     const Targets& targets, const ScanningController& scanning,
                                      WritingClock& writingClock, SessionState& state,
                                      const SessionServices& services)
-    : windows(environment.windows), desktop(environment.desktop), clock(environment.clock),
-      sounds(environment.sounds), profiles(profiles), writingClock(writingClock), state(state),
-      services(services) {
+    : boxes(environment.boxes), dialogs(environment.dialogs), windows(environment.windows),
+      desktop(environment.desktop), clock(environment.clock), sounds(environment.sounds), profiles(profiles),
+      targets(targets), scanning(scanning), writingClock(writingClock), state(state), services(services) {
 }
 
 void LoggingController::ResetMetrics() {
     services.metrics.Reset();
     writingClock.Reset();
     state.pendingSimulatedKeys = 0;
+    formerActivations = scanning.Activations();
 }
 
 void LoggingController::StartLog() {
@@ -39,9 +41,11 @@ void LoggingController::StartLog() {
     const auto& profile = profiles.Active().properties;
     if (!profile.IsOn(option::REGISTAR_EVENTOS))
         return;
+    state.context.Clear();
+    state.finalTexts.clear();
     if (profile.IsOn(option::SOM_INICIAL_REGISTO_EVENTOS) && !startSoundPlayed)
         PlayStartSound();
-    services.log.Start();
+    services.log.Start(profile.profileName);
 }
 
 void LoggingController::PlayStartSound() {
@@ -51,8 +55,43 @@ void LoggingController::PlayStartSound() {
 }
 
 void LoggingController::EndLog() {
-    if (services.log.IsOpen())
-        services.log.End();
+    if (!services.log.IsOpen())
+        return;
+    services.log.End(GetMetrics(), FinalTexts());
+    services.metrics.Reset();
+    state.finalTexts.clear();
+}
+
+void LoggingController::KeepFinalText() {
+    if (services.log.IsOpen() && targets.Internal())
+        state.finalTexts.push_back(targets.Internal()->GetTextWithTags());
+}
+
+void LoggingController::Restart() {
+    if (boxes.AskYesNo("Pretende reiniciar o registo de acções no sistema?"_w) != Answer::Yes)
+        return;
+    EndLog();
+    StartLog();
+}
+
+void LoggingController::ShowMetrics() {
+    dialogs.ShowMetrics(GetMetrics());
+}
+
+std::vector<Text> LoggingController::GetMetrics() const {
+    return services.metrics.Lines(
+        {.totalSeconds = writingClock.TotalSeconds(),
+         .effectiveSeconds = writingClock.EffectiveSeconds(),
+         .finalTexts = FinalTexts(),
+         .hasEditor = targets.Internal() != nullptr,
+         .switchActivations = services.log.IsOpen() ? scanning.Activations() - formerActivations : 0});
+}
+
+std::vector<Text> LoggingController::FinalTexts() const {
+    auto texts = state.finalTexts;
+    if (targets.Internal())
+        texts.push_back(targets.Internal()->GetTextWithTags());
+    return texts;
 }
 
 } // namespace ondrilo

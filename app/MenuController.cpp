@@ -4,14 +4,15 @@ namespace ondrilo {
 
 MenuController::MenuController(const Environment& environment, const CSystemOptions& systemOptions,
                                const COnScreenKeyboard& keyboard, ProfileController& profiles,
-                               VocabularyController& vocabulary, BulkLearningController& bulkLearning,
+                               VocabularyController& vocabulary, LoggingController& logging,
+                               BulkLearningController& bulkLearning,
                                SystemOptionsController& systemOptionsController,
                                SimulatorController& simulators, WindowChrome& chrome, Countdowns& countdowns,
                                const SessionServices& services)
     : frame(environment.frame), boxes(environment.boxes), dialogs(environment.dialogs),
       systemOptions(systemOptions), keyboard(keyboard), profiles(profiles), vocabulary(vocabulary),
-      bulkLearning(bulkLearning), systemOptionsController(systemOptionsController), simulators(simulators),
-      chrome(chrome), countdowns(countdowns), services(services) {
+      logging(logging), bulkLearning(bulkLearning), systemOptionsController(systemOptionsController),
+      simulators(simulators), chrome(chrome), countdowns(countdowns), services(services) {
 }
 
 void MenuController::Execute(int number) {
@@ -71,6 +72,12 @@ void MenuController::Run(int number) {
         return bulkLearning.LearnFromFile();
     case menu::LearnFromClipboard:
         return bulkLearning.LearnFromClipboard();
+    case menu::ViewLog:
+        return services.log.ShowViewer();
+    case menu::RestartMetrics:
+        return logging.Restart();
+    case menu::Metrics:
+        return logging.ShowMetrics();
     case menu::CopyLogs:
         return profiles.CopyLogs();
     case menu::RemoveLogs:

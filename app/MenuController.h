@@ -17,9 +17,10 @@ class MenuController {
   public:
     MenuController(const Environment& environment, const CSystemOptions& systemOptions,
                    const COnScreenKeyboard& keyboard, ProfileController& profiles,
-                   VocabularyController& vocabulary, BulkLearningController& bulkLearning,
-                   SystemOptionsController& systemOptionsController, SimulatorController& simulators,
-                   WindowChrome& chrome, Countdowns& countdowns, const SessionServices& services);
+                   VocabularyController& vocabulary, LoggingController& logging,
+                   BulkLearningController& bulkLearning, SystemOptionsController& systemOptionsController,
+                   SimulatorController& simulators, WindowChrome& chrome, Countdowns& countdowns,
+                   const SessionServices& services);
 
     /// `number` is one of FindMenuCommand.
     void Execute(int number);
@@ -38,6 +39,7 @@ class MenuController {
     const COnScreenKeyboard& keyboard;
     ProfileController& profiles;
     VocabularyController& vocabulary;
+    LoggingController& logging;
     BulkLearningController& bulkLearning;
     SystemOptionsController& systemOptionsController;
     SimulatorController& simulators;

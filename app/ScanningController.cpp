@@ -63,12 +63,12 @@ void ScanningController::GiveCues() {
 }
 
 void ScanningController::LineSelected(COnScreenKeyIdentifier line) {
-    events.Action(ActionOrigin::OfSwitch(), "LINE_SELECTION", line);
+    events.LineSelected(line.line);
     flash.Flash(Those(keyboard.AllKeys(), [line](auto key) { return key.line == line.line; }));
 }
 
 void ScanningController::GroupSelected(COnScreenKeyIdentifier group) {
-    events.Action(ActionOrigin::OfSwitch(), "GROUP_SELECTION", group);
+    events.GroupSelected(group.line, group.group);
     flash.Flash(Those(keyboard.AllKeys(),
                       [group](auto key) { return key.line == group.line && key.group == group.group; }));
 }

@@ -24,6 +24,10 @@ class ScanningController {
     /// `number` is 1 or 2.
     void SwitchDown(int number) { scanning.SwitchDown(number); }
     void SwitchUp(int number) { scanning.SwitchUp(number); }
+    /// Presses of both switches that counted since the start of the session.
+    [[nodiscard]] int Activations() const {
+        return scanning.Now().switch1Count + scanning.Now().switch2Count;
+    }
 
     /// Scanning of a level started or went on.
     void Step(Message step);

@@ -15,6 +15,11 @@ TextView StemOf(TextView text, bool isSentence) {
     return IsWordSequence(text) ? "PREDICTED_WORD_SEQUENCE" : "";
 }
 
+/// Page and position of a prediction, both from 0, and the prediction itself, as the event log tells them.
+Text Choice(int page, int position, TextView prediction) {
+    return "_" + std::to_string(page) + "_" + std::to_string(position) + "_" + Text(prediction);
+}
+
 } // namespace
 
 /// What tells apart the two lists of predicted pictograms.
@@ -142,9 +147,22 @@ void SelectionController::Log(const TextSelection& selection, TextView prefix, T
     const auto stem = StemOf(selection.text, selection.isSentence);
     if (stem.empty())
         return;
-    auto type = Text(prefix).append(stem).append(suffix);
-    type += "_" + std::to_string(selection.page) + "_" + std::to_string(selection.position) + "_";
-    events.ActionWithText(selection.origin, type, selection.text, selection.key);
+    const auto type = Text(prefix).append(stem).append(suffix);
+    events.Action(selection.origin, type + Choice(selection.page, selection.position, selection.text),
+                  selection.key);
+}
+
+void SelectionController::LogKey(const ActionOrigin& origin, COnScreenKeyIdentifier key, TextView type) {
+    if (events.IsOpen())
+        events.Action(origin, Text(type) + DetailsOf(key), key);
+}
+
+Text SelectionController::DetailsOf(COnScreenKeyIdentifier key) const {
+    const auto& data = keyboard.Key(key).data;
+    for (const auto* list : {&keys.lists.images, &keys.lists.imageSentences})
+        if (const auto position = list->PositionOf(key))
+            return Choice(list->page, *position, data.description);
+    return "_" + (HasPictograms(data.output) ? data.description : data.output);
 }
 
 void SelectionController::SelectPredictedImage(COnScreenKeyIdentifier key, const ActionOrigin& origin) {
@@ -169,14 +187,14 @@ void SelectionController::SelectImage(COnScreenKeyIdentifier key, const ActionOr
     const auto description = keyboard.Key(key).data.description;
     if (HearFirst(description, key, origin, family.spokenBefore))
         return;
-    events.Action(origin, family.selected, key);
+    LogKey(origin, key, family.selected);
     if (services.log.IsOpen()) {
         const auto& list = keys.lists.*family.list;
         services.metrics.Count(family.count);
         services.metrics.Count(family.position, list.IndexOf(list.PositionOf(key).value_or(0)));
     }
     if (IsOn(option::OUVIR_DEPOIS_COMPLETAR)) {
-        events.Action(origin, family.spokenAfter, key);
+        LogKey(origin, key, family.spokenAfter);
         speech.SpeakText(description);
     }
     completion.CompleteImage(key);
@@ -195,7 +213,7 @@ void SelectionController::SelectPictogramKey(COnScreenKeyIdentifier key, const A
                           : "SYNTHESIZE_IMAGE_KEY_BEFORE_SELECTION"))
         return;
     completion.WritePictogramKey(key);
-    events.Action(origin, several ? "IMAGE_SENTENCE_KEY_SELECTION" : "IMAGE_KEY_SELECTION", key);
+    LogKey(origin, key, several ? "IMAGE_SENTENCE_KEY_SELECTION" : "IMAGE_KEY_SELECTION");
     HearAfter(data.description, key, origin,
               several ? "SYNTHESIZE_IMAGE_SENTENCE_KEY_AFTER_SELECTION"
                       : "SYNTHESIZE_IMAGE_KEY_AFTER_SELECTION");
@@ -206,7 +224,7 @@ bool SelectionController::HearFirst(const Text& description, COnScreenKeyIdentif
                                     const ActionOrigin& origin, TextView event) {
     if (state.stages.lastSpoken == description || !IsOn(option::OUVIR_ANTES_COMPLETAR))
         return false;
-    events.Action(origin, event, key);
+    LogKey(origin, key, event);
     speech.SpeakText(description);
     state.stages.lastSpoken = description;
     return true;
@@ -217,7 +235,7 @@ void SelectionController::HearAfter(const Text& description, COnScreenKeyIdentif
     if (!IsOn(option::OUVIR_DEPOIS_COMPLETAR))
         return;
     speech.SpeakText(description);
-    events.Action(origin, event, key);
+    LogKey(origin, key, event);
 }
 
 void SelectionController::SelectTextKey(COnScreenKeyIdentifier key, const ActionOrigin& origin) {
@@ -232,7 +250,7 @@ void SelectionController::SelectTextKey(COnScreenKeyIdentifier key, const Action
         return;
     if (targets.Current()) {
         sender.SendKey(data.output);
-        events.Action(origin, "TEXT_KEY_SELECTION", key);
+        LogKey(origin, key, "TEXT_KEY_SELECTION");
     }
     HearAfter(data.description, key, origin, "SYNTHESIZE_TEXT_KEY_AFTER_SELECTION");
     state.ForgetSelection();
@@ -241,7 +259,7 @@ void SelectionController::SelectTextKey(COnScreenKeyIdentifier key, const Action
 void SelectionController::ShowTextKey(const COnScreenKeyData& data, COnScreenKeyIdentifier key,
                                       const ActionOrigin& origin) {
     if (keyboardSimulator.IsPrintingKey(data.output)) {
-        events.Action(origin, "SHOW_TEXT_KEY_BEFORE_SELECTION", key);
+        LogKey(origin, key, "SHOW_TEXT_KEY_BEFORE_SELECTION");
         const auto* target = targets.Current();
         preview.ShowPreview(target ? target->AdaptWordCase(data.output) : data.output);
         return;
@@ -249,7 +267,7 @@ void SelectionController::ShowTextKey(const COnScreenKeyData& data, COnScreenKey
     if (IsOn(option::OUVIR_ANTES_COMPLETAR))
         return;
     // Nothing to show, as with "Enter": it is heard instead.
-    events.Action(origin, "SYNTHESIZE_TEXT_KEY_BEFORE_SELECTION", key);
+    LogKey(origin, key, "SYNTHESIZE_TEXT_KEY_BEFORE_SELECTION");
     speech.SpeakText(data.description);
 }
 

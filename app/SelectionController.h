@@ -49,6 +49,9 @@ class SelectionController {
     bool PassStages(const TextSelection& selection);
     void Complete(const TextSelection& selection);
     /// `suffix` and `prefix` stand around the name of what is selected.
+    /// A key that is no text prediction, with its details.
+    void LogKey(const ActionOrigin& origin, COnScreenKeyIdentifier key, TextView type);
+    [[nodiscard]] Text DetailsOf(COnScreenKeyIdentifier key) const;
     void Log(const TextSelection& selection, TextView prefix, TextView suffix);
     [[nodiscard]] Text DisplayText(const TextSelection& selection) const;
 

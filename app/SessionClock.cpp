@@ -75,17 +75,26 @@ void SessionClock::MoveAgent() {
 
 void SessionClock::AdaptToContext() {
     countdowns.context.Stop();
-    if (const auto profile = services.context.DecideProfile())
+    if (const auto profile = services.context.DecideProfile()) {
+        Count(Metric::ContextAdaptation);
         changeProfile(*profile);
+    }
     placement.RefreshTitle();
     countdowns.context.Restart();
 }
 
 void SessionClock::ReadHints() {
     countdowns.cooperative.Stop();
-    if (services.cooperation.Role() == CooperativeRole::Client && services.cooperation.HasData())
+    if (services.cooperation.Role() == CooperativeRole::Client && services.cooperation.HasData()) {
+        Count(Metric::CooperativeDelivery);
         services.cooperation.ShowHints();
+    }
     countdowns.cooperative.Restart();
+}
+
+void SessionClock::Count(Metric metric) {
+    if (services.log.IsOpen())
+        services.metrics.Count(metric);
 }
 
 void SessionClock::PauseWriting() {

@@ -33,6 +33,7 @@ class SessionClock {
     void MoveAgent();
     void AdaptToContext();
     void ReadHints();
+    void Count(Metric metric);
     void PauseWriting();
     [[nodiscard]] const CUserProfileProperties& Options() const { return profiles.Active().properties; }
 

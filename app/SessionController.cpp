@@ -158,10 +158,9 @@ void SessionController::ApplyOptions(const CUserProfileProperties& before) {
     }
     if (changed(option::TEMPO_INACTIVIDADE_COMUNICACAO))
         clock->RestartSilence();
-    if (changed(option::INICIAR_JANELA_MAXIMIZADA, option::INICIAR_JANELA_MINIMIZADA,
-                option::POSICAO_INICIAL_JANELA_X, option::POSICAO_INICIAL_JANELA_Y))
-        placement.SetUpWindow();
     placement.ShowBackground();
+    if (!Options().IsOn(option::PROCESSADOR_TEXTO_INTERNO))
+        logging.KeepFinalText();
     targetController.ApplyOptions();
     if (changed(option::NOME_TECLADO))
         profiles.Active().properties.activeKeyboardName = Options().Get(option::NOME_TECLADO);

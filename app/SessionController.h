@@ -29,8 +29,8 @@ class SessionController {
     void ChangeProfile(TextView name, bool withNotice = false);
     /// Makes a new profile and goes over to it.
     void CreateProfile(TextView name);
-    /// Options of the active profile changed while the session runs: what shows them follows. The text that
-    /// the person has written stays.
+    /// Options of the active profile changed while the session runs: what shows them follows, but for
+    /// state and place that the window begins with. The text that the person has written stays.
     void ApplyOptions(const CUserProfileProperties& before);
     /// The voices of the active profile, with their exceptions as they are now. What is being spoken ends.
     void SelectVoices();

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "logging/MessageContext.h"
 #include "text/Text.h"
+
+#include <vector>
 
 namespace ondrilo {
 
@@ -18,6 +21,9 @@ struct SessionState {
     int lastKeyCode = -1;
     /// Key presses of the system's own that are still to come back from the target.
     int pendingSimulatedKeys = 0;
+    /// For the event log: the sentence that is being written, and the texts that were cleared.
+    MessageContext context;
+    std::vector<Text> finalTexts;
 
     void ForgetSelection() { stages = {}; }
 };

@@ -1,5 +1,6 @@
 #include "app/SpeechController.h"
 
+#include "text/Counting.h"
 #include "text/NormalForm.h"
 #include "text/Splitter.h"
 
@@ -103,10 +104,10 @@ void SpeechController::Count(Metric kind, TextView spoken, bool withSentences) {
     if (!services.log.IsOpen() || spoken.empty())
         return;
     services.metrics.Count(kind);
-    services.metrics.Count(Metric::WordInSpeech, static_cast<int>(Split(spoken).size()));
+    services.metrics.Count(Metric::WordInSpeech, CountWords(spoken));
     if (withSentences)
         services.metrics.Count(Metric::SentenceInSpeech,
-                               static_cast<int>(Split(spoken, kTerminators).size()));
+                               static_cast<int>(Split(spoken, kTerminators, kAllTokens).size()));
 }
 
 } // namespace ondrilo

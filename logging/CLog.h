@@ -1,46 +1,32 @@
 #pragma once
 
+#include "logging/EventLog.h"
 #include "platform/AppendFile.h"
 #include "platform/Clock.h"
 #include "platform/DataFolder.h"
 #include "platform/Dialogs.h"
 #include "platform/LogViewer.h"
-#include "text/Text.h"
-
-#include <vector>
 
 namespace ondrilo {
-
-/// The columns of a line of the event log but for its time. One without content is empty.
-struct LogEvent {
-    Text output; ///< text that the event put into the message
-    Text event;
-    Text type;
-    Text element;
-    Text center;
-    Text page;
-    Text context; ///< the sentence before the event
-    bool operator==(const LogEvent&) const = default;
-};
 
 /// Writes what a person does into a file, a line an event, each on its way to the disk before the next. A
 /// log without a file, because it could not be opened, is open too, and its events go nowhere; that a disk
 /// is full is not told, and costs only the lines that found no place.
-class CLog {
+class CLog : public EventLog {
   public:
     /// All outlive the log.
     CLog(const DataFolder& folder, const Clock& clock, MessageBoxes& boxes, LogViewer& viewer);
 
-    [[nodiscard]] bool IsOpen() const { return open; }
+    [[nodiscard]] bool IsOpen() const override { return open; }
     /// Makes the file of that profile and moment, in place of one of the same second, and writes its header
     /// and first event. A log that is still open ends there, without its end.
-    void Start(TextView profile);
+    void Start(TextView profile) override;
     /// Nothing if no log is open.
-    void Write(const LogEvent& event);
+    void Write(const LogEvent& event) override;
     /// Writes the last section, closes the file and takes the viewer away; nothing if no log is open.
-    void End(const std::vector<Text>& metrics, const std::vector<Text>& finalTexts);
+    void End(const std::vector<Text>& metrics, const std::vector<Text>& finalTexts) override;
     /// Opens the viewer, or says why not.
-    void ShowViewer();
+    void ShowViewer() override;
 
   private:
     void WriteLine(TextView line);

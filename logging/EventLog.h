@@ -1,18 +1,20 @@
 #pragma once
 
-#include "platform/COnScreenKeyIdentifier.h"
 #include "text/Text.h"
 
-#include <optional>
+#include <vector>
 
 namespace ondrilo {
 
-/// What a person did, as a row of the event log. Time, page and context are the log's own to add.
+/// The columns of a line of the event log but for its time. One without content is empty.
 struct LogEvent {
     Text output; ///< text that the event put into the message
-    Text event;
-    Text type;
-    std::optional<COnScreenKeyIdentifier> key;
+    Text event;  ///< what the person did
+    Text type;   ///< what that was done to, or what it did
+    Text element;
+    Text center;  ///< of the element on the screen
+    Text page;    ///< keyboard on show
+    Text context; ///< the message before the event
     bool operator==(const LogEvent&) const = default;
 };
 
@@ -22,15 +24,13 @@ class EventLog {
   public:
     virtual ~EventLog() = default;
     [[nodiscard]] virtual bool IsOpen() const { return false; }
-    /// Opens a new log for the active profile.
-    virtual void Start() {}
-    /// Writes the final records and closes; nothing if none is open.
-    virtual void End() {}
+    /// Opens a new log for that profile. One that is still open ends there, without its end.
+    virtual void Start(TextView /*profile*/) {}
     virtual void Write(const LogEvent&) {}
-    /// Takes the message's present state as the context of the next events.
-    virtual void UpdateContext() {}
-    /// Keeps a text that is about to be cleared, for the final records.
-    virtual void AddFinalText(TextView) {}
+    /// Writes the last section and closes; nothing if no log is open.
+    virtual void End(const std::vector<Text>& /*metrics*/, const std::vector<Text>& /*finalTexts*/) {}
+    /// Opens the window that shows the lines as they are written, or says why not.
+    virtual void ShowViewer() {}
 };
 
 } // namespace ondrilo

@@ -36,6 +36,7 @@ class CMainFrame : public QMainWindow, public FrameWindow {
     [[nodiscard]] WindowState State() const override;
     [[nodiscard]] Rectangle Frame() const override;
     void MoveTo(Point position) override;
+    [[nodiscard]] Point ViewOrigin() const override { return FromQPoint(view->mapToGlobal(QPoint(0, 0))); }
     [[nodiscard]] Size ClientSize() const override { return {view->width(), view->height()}; }
     void FitClient(Size size) override;
     void ShowCaption(bool visible) override;

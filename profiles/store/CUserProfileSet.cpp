@@ -223,8 +223,10 @@ void CUserProfileSet::CopyLogs() {
     const auto target = dialogs.ChooseFolder("Seleccione uma directoria");
     if (!target)
         return;
-    bool all = true;
-    for (const auto& log : LogsOf(name)) {
+    std::error_code ignored;
+    // Copied onto itself, a log that is being written would go on in a file that nobody finds any more.
+    bool all = !std::filesystem::equivalent(*target, folder.Path(), ignored);
+    for (const auto& log : all ? LogsOf(name) : std::vector<Text>()) {
         const auto read = ReadFile(folder.Path(log));
         all = read.state == ReadState::Complete && ReplaceFile(DataFolder(*target).Path(log), read.bytes) &&
               all;

@@ -22,16 +22,16 @@ struct RecordingServices {
     struct Log : EventLog, Noting {
         using Noting::Noting;
         [[nodiscard]] bool IsOpen() const override { return open; }
-        void Start() override {
+        void Start(TextView) override {
             open = true;
             journal.Note("start log");
         }
-        void End() override {
+        void End(const std::vector<Text>&, const std::vector<Text>& texts) override {
             open = false;
+            finalTexts = texts;
             journal.Note("end log");
         }
         void Write(const LogEvent& event) override { written.push_back(event); }
-        void AddFinalText(TextView text) override { finalTexts.emplace_back(text); }
         bool open = false;
         std::vector<LogEvent> written;
         std::vector<Text> finalTexts;

@@ -147,19 +147,6 @@ TEST_F(RunningSystem, AfterTheSelectionItIsHeardIfWanted) {
     EXPECT_EQ(Written(), "tudo l");
 }
 
-TEST_F(RunningSystem, ASelectionIsLoggedWithItsPlace) {
-    StartWriting("REGISTAR_EVENTOS 1\nOUVIR_ANTES_COMPLETAR 1\n");
-    services.log.written.clear();
-    Click(kOtherWordKey);
-    Click(kOtherWordKey);
-    ASSERT_GE(services.log.written.size(), 2U);
-    EXPECT_EQ(services.log.written[0],
-              (LogEvent{"", "LEFT_MOUSE_DOWN_KEY",
-                        "SYNTHESIZE_PREDICTED_WORD_FROM_LIST_BEFORE_COMPLETATION_0_1_tudo", kOtherWordKey}));
-    EXPECT_EQ(services.log.written[1],
-              (LogEvent{"", "LEFT_MOUSE_DOWN_KEY", "PREDICTED_WORD_SELECTION_0_1_tudo", kOtherWordKey}));
-}
-
 TEST_F(RunningSystem, APartnersSuggestionsGoAfterASelection) {
     StartWriting();
     services.cooperation.up = true;

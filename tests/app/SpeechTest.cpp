@@ -35,17 +35,17 @@ TEST_F(SpeechTest, WhatIsSpokenByKeyOrCommandIsLearnedBeforeLoggedAndCounted) {
     Type("  bom   dia");
     Press(kSpeakSentence);
     EXPECT_TRUE(isLearned) << "speech may take long, and the program may be left meanwhile";
-    EXPECT_EQ(Heard(), (Expected{Texts("bom dia"), Texts("SYNTHESIZE_SENTENCE_bom_dia")}));
+    EXPECT_EQ(Heard(), (Expected{Texts("bom dia"), Texts("SYNTHESIZE_SENTENCE_bom dia")}));
     Type("  . ");
     Click("[Sintetizar-Fala-Frase]");
     EXPECT_EQ(Heard(),
-              (Expected{Texts("bom dia."), Texts("COMMAND_EXECUTION_SYNTHESIZE_SENTENCE_bom_dia.")}));
+              (Expected{Texts("bom dia."), Texts("COMMAND_EXECUTION_SYNTHESIZE_SENTENCE_bom dia.")}));
     Type("Tudo ");
     Press(kSpeakWord);
     EXPECT_EQ(Heard(), (Expected{Texts("Tudo"), Texts("SYNTHESIZE_WORD_Tudo")}));
     Click("[Sintetizar-Fala-Area-Trabalho]");
     EXPECT_EQ(Heard(),
-              (Expected{Texts("bom dia. Tudo"), Texts("COMMAND_EXECUTION_SYNTHESIZE_ALL_bom_dia._Tudo")}));
+              (Expected{Texts("bom dia. Tudo"), Texts("COMMAND_EXECUTION_SYNTHESIZE_ALL_bom dia. Tudo")}));
     Click("[Sintetizar-Descrição-Tecla]"_w);
     EXPECT_EQ(Heard().first, Texts("o que sou"));
 
@@ -64,9 +64,9 @@ TEST_F(SpeechTest, AfterAPictogramItsLabelIsSpokenUnlessAWordFollows) {
     editor.SetImageLabels(*position, "pão fresco"_w, "[pão fresco]"_w);
     Type(", ");
     Press(kSpeakWord);
-    EXPECT_EQ(Heard(), (Expected{Texts("pão fresco"_w), Texts("SYNTHESIZE_IMAGE_pão_fresco"_w)}));
+    EXPECT_EQ(Heard(), (Expected{Texts("pão fresco"_w), Texts("SYNTHESIZE_IMAGE_pão fresco"_w)}));
     Click("[Sintetizar-Fala-Palavra]");
-    EXPECT_EQ(Heard().second, Texts("COMMAND_EXECUTION_SYNTHESIZE_IMAGE_pão_fresco"_w));
+    EXPECT_EQ(Heard().second, Texts("COMMAND_EXECUTION_SYNTHESIZE_IMAGE_pão fresco"_w));
     Type("bom");
     Click("[Sintetizar-Fala-Palavra]");
     EXPECT_EQ(Heard(), (Expected{Texts("bom"), Texts("COMMAND_EXECUTION_SYNTHESIZE_WORD_bom")}));

@@ -172,17 +172,6 @@ TEST_F(RunningSystem, ASingleWordOnASentenceKeyCountsAsNoWordOfTheWordList) {
     EXPECT_TRUE(services.metrics.completions.empty());
 }
 
-TEST_F(RunningSystem, AnAbbreviationExpandedByAKeyOfTheScreenIsLoggedWithThatKey) {
-    folder.Write("generico.abr", "bd bom dia\n");
-    StartWriting("REGISTAR_EVENTOS 1\nTECLA_EXPANSAO_ABREVIATURAS Enter\n");
-    Type("bd");
-    services.log.written.clear();
-    Click("Enter");
-    EXPECT_EQ(Written(), "bom dia ");
-    EXPECT_EQ(services.log.written.at(0),
-              (LogEvent{"", "LEFT_MOUSE_DOWN_KEY", "ABBREVIATION_SELECTION_bd_bom_dia", KeyOf("Enter")}));
-}
-
 TEST_F(RunningSystem, AnAbbreviationIsReplacedByItsExpansion) {
     folder.Write("generico.abr", "bd bom dia\n");
     StartWriting("OUVIR_ANTES_COMPLETAR 1\nVER_ANTES_COMPLETAR 1\n");
@@ -202,7 +191,6 @@ TEST_F(RunningSystem, LearningLinksTheFirstWordAfterABreakToTheLastBefore) {
     Type("tudo ");
     Click("[Limpar-Area-Trabalho]");
     EXPECT_EQ(Written(), "");
-    EXPECT_EQ(services.log.finalTexts, Texts("tudo "));
     Type("bem ");
     frame.listener->OnDestroy();
     EXPECT_EQ(folder.Read("generico.par"), "___ bem 1\n___ tudo 1\ntudo bem 1\n");

@@ -26,6 +26,7 @@ class FakeFrameWindow : public FrameWindow {
         return {position.x, position.y, client.width + 16, client.height + 48};
     }
     void MoveTo(Point newPosition) override { position = newPosition; }
+    [[nodiscard]] Point ViewOrigin() const override { return {position.x + 8, position.y + 40}; }
     [[nodiscard]] Size ClientSize() const override { return client; }
     void FitClient(Size size) override { client = size; }
     void ShowCaption(bool visible) override { captionVisible = visible; }
