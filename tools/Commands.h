@@ -11,7 +11,8 @@ struct Command {
     std::string_view summary; ///< one line
     std::string_view details; ///< further lines of the help; may be empty
     std::span<const ToolOption> options;
-    /// The exit code: 0 all well, 1 something was found or failed, 2 wrong use.
+    /// The exit code: 0 all well, 1 something was found or failed, 2 wrong use; what else a command needs is
+    /// told in its details.
     int (*run)(const Arguments&);
     /// The words go to `run` as they are, help included.
     bool passesWords = false;
@@ -20,6 +21,7 @@ struct Command {
 extern const Command kCheckCommand;
 extern const Command kCorpusCommand;
 extern const Command kKeyboardCommand;
+extern const Command kLogCommand;
 extern const Command kPredictCommand;
 extern const Command kSimulateCommand;
 extern const Command kVocabularyCommand;

@@ -7,7 +7,7 @@
 namespace ondrilo {
 namespace {
 
-const Command* const kCommands[] = {&kCheckCommand,   &kCorpusCommand,   &kKeyboardCommand,
+const Command* const kCommands[] = {&kCheckCommand,   &kCorpusCommand,   &kKeyboardCommand,  &kLogCommand,
                                     &kPredictCommand, &kSimulateCommand, &kVocabularyCommand};
 
 constexpr ToolOption kCommonOptions[] = {
