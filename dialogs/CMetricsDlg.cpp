@@ -6,13 +6,13 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QPushButton>
+#include <QScrollBar>
 
 namespace ondrilo {
 namespace {
 
-/// Smallest size of the list, in characters and lines; the longest name of a metric has 80.
-constexpr int kListWidth = 70;
-constexpr int kListHeight = 20;
+/// The least number of rows to be seen.
+constexpr int kRows = 20;
 
 } // namespace
 
@@ -21,12 +21,11 @@ CMetricsDlg::CMetricsDlg(const DialogHost& host, const std::vector<Text>& lines)
     rows->setObjectName("metrics");
     rows->setAccessibleName(windowTitle());
     rows->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    const auto metrics = rows->fontMetrics();
-    rows->setMinimumSize(metrics.horizontalAdvance(QString(kListWidth, 'n')),
-                         metrics.lineSpacing() * kListHeight);
     for (const Text& line : lines)
         rows->addItem(ToQString(line));
     rows->setCurrentRow(0, QItemSelectionModel::NoUpdate);
+    const int scrollBar = rows->verticalScrollBar()->sizeHint().width() + 2 * rows->frameWidth();
+    rows->setMinimumSize(rows->sizeHintForColumn(0) + scrollBar, rows->fontMetrics().lineSpacing() * kRows);
     AddCopying();
 
     auto* content = new QWidget;
