@@ -2,7 +2,6 @@
 
 #include "app/MenuCommands.h"
 #include "app/ui/MainMenu.h"
-#include "platform/qt/QtConversion.h"
 #include "targets/ui/KeyStrokes.h"
 
 #include <QApplication>

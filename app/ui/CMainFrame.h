@@ -5,6 +5,7 @@
 #include "platform/Keyboard.h"
 #include "platform/MessageQueue.h"
 #include "platform/qt/KeyRepeats.h"
+#include "platform/qt/QtConversion.h"
 
 #include <QElapsedTimer>
 #include <QMainWindow>
