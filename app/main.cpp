@@ -4,6 +4,9 @@
 #include "app/ui/QtOptionDialogs.h"
 #include "app/ui/QtSessionWindows.h"
 #include "app/ui/QuitSignals.h"
+#include "dialogs/CLoggingViewerDlg.h"
+#include "logging/CLog.h"
+#include "logging/CMetrics.h"
 #include "platform/linux/CanberraSoundPlayer.h"
 #include "platform/linux/FlockInstanceLock.h"
 #include "platform/linux/PosixProgramStarter.h"
@@ -54,9 +57,12 @@ int Run(const std::filesystem::path& dataFolder, QtDesktop& desktop, QtMessageBo
     QtSessionWindows windows({frame, queue, timers, sounds, keys, data, pictures});
     SpeechDispatcher speechEngine;
     CSpeechSynthesizer speech(speechEngine, data), cueSpeech(speechEngine, data);
+    CLoggingViewerDlg logViewer(frame);
+    CLog log(data, clock, boxes, logViewer);
+    CMetrics metrics;
     NullServices without;
-    const SessionServices services{.log = without.log,
-                                   .metrics = without.metrics,
+    const SessionServices services{.log = log,
+                                   .metrics = metrics,
                                    .speech = speech,
                                    .cueSpeech = cueSpeech,
                                    .agent = without.agent,
