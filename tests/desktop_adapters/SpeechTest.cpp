@@ -85,10 +85,7 @@ TEST_F(SpeechTest, CutsOffWhatIsBeingSaidAlsoWhenLettersComeInABurst) {
             PassTime(pause);
         }
     Say("fim");
-    QElapsedTimer time;
-    time.start();
     ASSERT_TRUE(Begins("fim"));
-    EXPECT_LT(time.elapsed(), 500);
     Say(" "); // only gets the voice ready
     ASSERT_TRUE(Ends("fim"));
     const auto said = service.Said();
