@@ -103,7 +103,7 @@ void EventWriter::RawButton(int button) {
 }
 
 void EventWriter::Character(char c) {
-    if (!IsOpen() || IsSecret())
+    if (!IsOpen())
         return;
     Text output(1, c);
     Text event = "CHAR_" + output;
@@ -119,14 +119,10 @@ void EventWriter::UpdateContext() {
     if (!IsOpen())
         return;
     const auto* target = targets.Current();
-    if (!target || IsSecret())
+    if (!target || target->IsPassword())
         return state.context.Clear();
     const auto sentence = target->GetWrittenSentence();
     state.context.Update(sentence.empty() ? target->GetTextWithLabels() : sentence);
-}
-
-bool EventWriter::IsSecret() const {
-    return targets.Current() && targets.Current()->IsPassword();
 }
 
 const Text& EventWriter::Page() const {

@@ -50,8 +50,6 @@ class EventWriter {
         Text center;
     };
     void Write(TextView event, TextView type, const Element& element);
-    /// What a person writes into a password field stays out of the log.
-    [[nodiscard]] bool IsSecret() const;
     [[nodiscard]] const Text& Page() const;
     [[nodiscard]] Text EventOf(const ActionOrigin& origin) const;
     [[nodiscard]] Text KeyEvent(int code) const;

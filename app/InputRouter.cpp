@@ -206,8 +206,14 @@ void InputRouter::ButtonDown(int button) {
 void InputRouter::Character(char c) {
     if (IsOn(option::OUVIR_LETRAS))
         speech.SpeakText(TextView(&c, 1));
+    if (IsSecret())
+        return;
     Count(Metric::Character);
     events.Character(c);
+}
+
+bool InputRouter::IsSecret() const {
+    return targets.Current() && targets.Current()->IsPassword();
 }
 
 void InputRouter::WordEnd() {
@@ -215,7 +221,7 @@ void InputRouter::WordEnd() {
     countdowns.prediction.Restart();
     if (IsOn(option::OUVIR_PALAVRAS))
         speech.SpeakEndedWord();
-    if (!events.IsOpen() || !targets.Current())
+    if (!events.IsOpen() || !targets.Current() || IsSecret())
         return;
     Count(Metric::Word);
     events.Event("NEW_WORD", "WORD_" + targets.Current()->GetPreviousWord());
@@ -225,7 +231,7 @@ void InputRouter::SentenceEnd() {
     if (IsOn(option::OUVIR_FRASES))
         speech.SpeakEndedSentence();
     learning.LearnSentence();
-    if (!events.IsOpen() || !targets.Current())
+    if (!events.IsOpen() || !targets.Current() || IsSecret())
         return;
     const auto sentence = targets.Current()->GetPreviousSentence();
     if (Split(sentence, kTerminators).empty())

@@ -128,6 +128,11 @@ class Desktop:
         """Its number, empty if nothing has the focus."""
         return subprocess.run(['xdotool', 'getactivewindow'], capture_output=True, text=True).stdout.strip()
 
+    def windows(self, title):
+        """The numbers of the windows that show and have that title."""
+        return subprocess.run(['xdotool', 'search', '--onlyvisible', '--name', title], capture_output=True,
+                              text=True).stdout.split()
+
     def picture(self, path):
         subprocess.run(['import', '-window', 'root', str(path)], check=True)
 
