@@ -46,7 +46,11 @@ void BulkLearningController::Learn(const std::filesystem::path& text) {
     dictionary.LearnWordPairsFromFile(text);
     dictionary.LearnSentencesFromFile(text);
     dictionary.LearnSentencePairsFromFile(text);
+    // Told as done, it must outlive a crash.
+    const auto saved = dictionary.SaveUserFiles();
     environment.frame.SetBusy(false);
+    if (!saved)
+        environment.frame.SetStatusMessage(saved.problem);
     environment.boxes.Show("As palavras e frases do utilizador foram incorporadas no dicionário."_w);
 }
 
