@@ -20,8 +20,8 @@ class SpecialKeys {
 
     /// Which hot key the code is, from 0; nothing for any other key, and for a profile without hot keys.
     [[nodiscard]] std::optional<int> HotKeyIndex(int code) const;
-    /// Hot keys that are given out: one less than the codes in the range, and none without a range.
-    [[nodiscard]] int HotKeyLimit() const { return firstHotKey == 0 ? 0 : lastHotKey - firstHotKey; }
+    /// Hot keys that are given out: one less than the codes in the range.
+    [[nodiscard]] int HotKeyLimit() const { return lastHotKey - firstHotKey; }
     [[nodiscard]] Text HotKeyName(int index) const;
 
     int switch1Key = 0;
