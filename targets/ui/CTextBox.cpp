@@ -178,6 +178,8 @@ void CTextBox::keyPressEvent(QKeyEvent* event) {
     else if (!IsWritable(event->text()))
         return;
     QTextEdit::keyPressEvent(event);
+    // The main window, which would get what writes nothing, reports keys too.
+    event->accept();
     if (event->key() == Qt::Key_Space)
         EndUndoStep();
 }
@@ -187,6 +189,7 @@ void CTextBox::keyReleaseEvent(QKeyEvent* event) {
     if (!event->isAutoRepeat())
         ReportKeysUp(VirtualKeysOf(*event, layout), KeyDataOf(*event));
     QTextEdit::keyReleaseEvent(event);
+    event->accept();
 }
 
 /// A dead key's press never arrives: the desktop keeps it, and sends the composed letter instead.

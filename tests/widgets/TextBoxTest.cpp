@@ -52,6 +52,7 @@ class TextBoxTest : public testing::Test {
         for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
             QKeyEvent event(type, key, modifiers, 38, symbol, 0, text);
             QApplication::sendEvent(&box, &event);
+            EXPECT_TRUE(event.isAccepted()) << "the main window would report the key once more";
         }
     }
     void Write(const char* letters) {
