@@ -1,12 +1,7 @@
 #include "simulators/WordSimulation.h"
-#include "tests/simulators/IdealPerson.h"
 #include "tests/support/TemporaryFolder.h"
-#include "text/CaseFolding.h"
-#include "text/Splitter.h"
 
 #include <gtest/gtest.h>
-
-#include <random>
 
 namespace ondrilo {
 
@@ -114,84 +109,6 @@ TEST_F(WordSimulator, NothingBeginsThatCouldNotBeTakenBack) {
     EXPECT_TRUE(profile.dictionary.GetWord("guardada"));
 }
 
-/// Words that share beginnings, letters with accents, and one inside the other.
-const Tokens kSomeWords =
-    Split("a amanhã avó bom casa casaco cas dia ela há não nós português que quer quero "
-          "sábado à sapato saber"_w);
-
-/// Chance, the same in every run.
-class Dice {
-  public:
-    int Below(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
-    const Text& Word() {
-        return kSomeWords[static_cast<std::size_t>(Below(static_cast<int>(kSomeWords.size())))];
-    }
-    IdealPerson Person();
-    Text WordsToWrite();
-
-  private:
-    std::mt19937 random{7};
-};
-
-IdealPerson Dice::Person() {
-    IdealPerson person;
-    person.listed = static_cast<std::size_t>(1 + Below(5));
-    person.learns = Below(2) == 1;
-    person.weights = {97, 31, 89, 53};
-    const int mostLearned = 1 + 2 * Below(2);
-    for (int i = 0; i < 12; ++i)
-        person.words[Word()] = {1 + Below(9), Below(mostLearned)};
-    for (int i = 0; i < 15; ++i) {
-        const auto &first = Word(), &second = Word();
-        if (person.words.count(first) > 0 && person.words.count(second) > 0)
-            person.pairs[{first, second}] = {1 + Below(5), 0};
-    }
-    return person;
-}
-
-Text Dice::WordsToWrite() {
-    Text text;
-    for (int i = 0; i < 60; ++i) {
-        Text word = Word();
-        if (Below(6) == 0 && word.size() > 1)
-            word.front() = MakeUpper(word.front());
-        text += word + TextView(" \n,.  ")[static_cast<std::size_t>(Below(6))];
-    }
-    return text;
-}
-
-/// The files and options of a profile in which that person finds themselves.
-void Become(const IdealPerson& person, const TemporaryFolder& folder, CUserProfile& profile) {
-    Text general, user, pairs;
-    for (const auto& [word, counters] : person.words) {
-        general += word + " " + std::to_string(counters.general) + "\n";
-        if (counters.user > 0)
-            user += word + " " + std::to_string(counters.user) + "\n";
-    }
-    for (const auto& [pair, counters] : person.pairs)
-        pairs += pair.first + " " + pair.second + " " + std::to_string(counters.general) + "\n";
-    folder.Write("geral.pal", general);
-    folder.Write("ana.pal", user);
-    folder.Write("geral.par", pairs);
-    profile.Set(option::NUMERO_MAXIMO_PALAVRAS_PREDITAS, static_cast<int>(person.listed));
-    profile.Set(option::ADAPTACAO_UTILIZADOR, person.learns ? 1 : 0);
-    profile.Set(option::COEFICIENTE_FREQUENCIA_PALAVRA, person.weights.word);
-    profile.Set(option::COEFICIENTE_FREQUENCIA_PAR_PALAVRAS, person.weights.pair);
-    profile.Set(option::COEFICIENTE_FREQUENCIA_PALAVRA_UTILIZADOR, person.weights.userWord);
-    profile.Set(option::COEFICIENTE_FREQUENCIA_PAR_PALAVRAS_UTILIZADOR, person.weights.userPair);
-}
-
-TEST_F(WordSimulator, AgreesWithAPersonWhoRanksEveryWordByHand) {
-    Dice dice;
-    for (int round = 0; round < 60; ++round) {
-        auto person = dice.Person();
-        const auto text = dice.WordsToWrite();
-        Become(person, folder, profile);
-        Load();
-        ASSERT_EQ(Write(text), person.Write(text)) << "round " << round << "\n" << ToUtf8(text);
-    }
-}
-
 /// Notes the figures of each run.
 struct Runs : WordSimulationObserver {
     void RunStarts(int) override {}
@@ -214,18 +131,15 @@ TEST_F(WordSimulator, TheSchedulesRunWholeAndLeaveTheirLastFactors) {
     EXPECT_EQ(six.ended.size(), 6U);
     EXPECT_EQ(six.words, 12);
     EXPECT_TRUE(profile.IsChanged());
-    const auto& options = profile.properties;
-    EXPECT_EQ(options.Get(option::ADAPTACAO_UTILIZADOR), 1);
-    EXPECT_EQ(options.Get(option::COEFICIENTE_FREQUENCIA_PALAVRA), 100);
-    EXPECT_EQ(options.Get(option::COEFICIENTE_FREQUENCIA_PAR_PALAVRAS), 100);
-    EXPECT_EQ(options.Get(option::COEFICIENTE_CLASSE_PALAVRA), 0);
-    EXPECT_EQ(options.Get(option::COEFICIENTE_FREQUENCIA_PALAVRA_UTILIZADOR), 100);
-    EXPECT_EQ(options.Get(option::COEFICIENTE_FREQUENCIA_PAR_PALAVRAS_UTILIZADOR), 100);
-
-    Runs none;
-    SimulateWords(profile, folder.Path() / "nada.txt", WordSimulationType::FactorByFactor, none);
-    EXPECT_TRUE(none.ended.empty());
-
+    const auto get = [this](IntegerOption option) {
+        return profile.properties.Get(option);
+    };
+    EXPECT_EQ((PredictionFactors{
+                  get(option::ADAPTACAO_UTILIZADOR) == 1, get(option::COEFICIENTE_FREQUENCIA_PALAVRA),
+                  get(option::COEFICIENTE_FREQUENCIA_PAR_PALAVRAS), get(option::COEFICIENTE_CLASSE_PALAVRA),
+                  get(option::COEFICIENTE_FREQUENCIA_PALAVRA_UTILIZADOR),
+                  get(option::COEFICIENTE_FREQUENCIA_PAR_PALAVRAS_UTILIZADOR)}),
+              (PredictionFactors{true, 100, 100, 0, 100, 100}));
     const auto sweeps = ScheduleOf(WordSimulationType::GraduallyRaised);
     ASSERT_EQ(sweeps.size(), 255U);
     EXPECT_EQ(*sweeps[50], (PredictionFactors{false, 100, 0, 0, 0, 0}));
