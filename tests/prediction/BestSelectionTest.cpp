@@ -15,7 +15,6 @@ std::vector<std::uint32_t> Selected(const std::vector<double>& scores, std::size
     std::vector<SelectedScore> best;
     SelectBest(scores, n, best);
     std::vector<std::uint32_t> indexes;
-    indexes.reserve(best.size());
     for (const auto& selected : best)
         indexes.push_back(selected.index);
     return indexes;

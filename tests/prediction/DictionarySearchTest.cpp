@@ -51,83 +51,59 @@ TEST_F(DictionarySearch, AtMostTenThousandSuccessorsAreTold) {
     EXPECT_EQ(dictionary.GetWord("___").NextCount(), 10'500);
 }
 
-/// What the dictionary must be: one sorted table.
-class SortedTable {
-  public:
-    struct Record {
-        int general = 0;
-        int user = 0;
-        std::map<Text, std::pair<int, int>> next;
-    };
-    std::map<Text, Record> words;
-
-    [[nodiscard]] int PositionOf(const Text& word) const {
-        return static_cast<int>(std::distance(words.begin(), words.lower_bound(word)));
-    }
-    [[nodiscard]] Tokens WithPrefix(const Text& prefix) const {
-        Tokens found;
-        for (const auto& [word, record] : words)
-            if (word.starts_with(prefix) && word != prefix)
-                found.push_back(word);
-        return found;
-    }
-};
-
 TEST_F(DictionarySearch, TheWholeStaysOneSortedTableWhateverThePersonAdds) {
+    using Counters = std::pair<int, int>; // general ones and the person's
     std::mt19937 random(7);
     const auto word = [&random] {
-        constexpr TextView letters = "abéz";
         Text made;
         for (auto length = 1 + random() % 4; length > 0; --length)
-            made += letters[random() % letters.size()];
+            made += "abéz"_w[random() % 4];
         return made;
     };
-    SortedTable table;
+    std::map<Text, Counters> words;
+    std::map<Text, std::map<Text, Counters>> next;
     for (int i = 0; i < 60; ++i)
-        table.words[word()].general = 1 + i;
-    Text lines;
-    Text pairs;
-    for (auto& [first, record] : table.words) {
-        lines += first + " " + std::to_string(record.general) + "\n";
-        for (const auto& [second, unused] : table.words)
+        words[word()].first = 1 + i;
+    Text lines, pairs;
+    for (const auto& [first, counters] : words) {
+        lines += first + " " + std::to_string(counters.first) + "\n";
+        for (auto second = words.begin(); second != words.end(); ++second)
             if (random() % 8 == 0) {
-                record.next[second].first = 3;
-                pairs.append(first).append(" ").append(second).append(" 3\n");
+                next[first][second->first].first = 3;
+                pairs += first + " " + second->first + " 3\n";
             }
     }
     Write("geral.pal", lines);
     Write("geral.par", pairs);
     (void)Load();
-
     for (int i = 0; i < 400; ++i) {
-        const Text first = word();
-        const Text second = word();
+        const Text first = word(), second = word();
         dictionary.AddUserWord(first);
-        ++table.words[first].user;
+        ++words[first].second;
         dictionary.AddUserWordPair(first, second);
-        if (table.words.contains(second))
-            ++table.words[first].next[second].second;
+        if (words.contains(second))
+            ++next[first][second].second;
     }
 
-    Tokens expected;
-    for (const auto& [text, record] : table.words) {
-        expected.push_back(text);
-        const auto [found, position] = dictionary.FindWord(text);
+    int position = 0;
+    for (const auto& [text, counters] : words) {
+        const auto [found, at] = dictionary.FindWord(text);
         ASSERT_TRUE(found);
-        EXPECT_EQ(position, table.PositionOf(text));
-        EXPECT_EQ(found.Frequency(), record.general);
-        EXPECT_EQ(found.UserFrequency(), record.user);
-        Tokens next;
-        for (const auto& [second, counters] : record.next)
-            next.push_back(second + ":" + std::to_string(counters.first) + ":" +
-                           std::to_string(counters.second));
-        EXPECT_EQ(NextWords(text), next);
+        EXPECT_EQ(at, position++);
+        EXPECT_EQ(Counters(found.Frequency(), found.UserFrequency()), counters);
+        Tokens told;
+        for (const auto& [second, of] : next[text])
+            told.push_back(second + ":" + std::to_string(of.first) + ":" + std::to_string(of.second));
+        EXPECT_EQ(NextWords(text), told);
     }
-    EXPECT_EQ(Words(), expected);
+    EXPECT_EQ(Words().size(), words.size());
     for (int i = 0; i < 50; ++i) {
         const Text text = word();
-        EXPECT_EQ(dictionary.FindWord(text).position, table.PositionOf(text)) << text;
-        EXPECT_EQ(WithPrefix(text, 1000), table.WithPrefix(text)) << text;
+        EXPECT_EQ(dictionary.FindWord(text).position, std::distance(words.begin(), words.lower_bound(text)));
+        Tokens longer;
+        for (auto at = words.upper_bound(text); at != words.end() && at->first.starts_with(text); ++at)
+            longer.push_back(at->first);
+        EXPECT_EQ(WithPrefix(text, 1000), longer) << text;
     }
 }
 

@@ -84,17 +84,10 @@ TEST_F(Prediction, WithoutCountsNothingIsDividedAndEqualWordsComeInDescendingOrd
         << "a first word without frequency adds nothing";
     EXPECT_THAT(Words("desconhecida", "p"), ElementsAre("pc", "pb", "pa"));
     EXPECT_THAT(Words("pa", "p", 2), ElementsAre("pb", "pa")) << "an equal score displaces nothing";
+    EXPECT_EQ(predictor.BestWords(100, words), 3U) << "the results may be read again";
     EXPECT_THAT(Words("pa", "p", 0), IsEmpty());
     EXPECT_THAT(Words("", ""), IsEmpty());
     EXPECT_THAT(Words("desconhecida", ""), IsEmpty());
-}
-
-TEST_F(Prediction, ASecondReadingOfTheResultsIsTheSame) {
-    Write("geral.pal", "pa 1\npb 2\npc 3\n");
-    (void)Load();
-    EXPECT_THAT(Words("", "p", 1), ElementsAre("pc"));
-    EXPECT_EQ(predictor.BestWords(100, words), 3U);
-    EXPECT_THAT(Texts(words), ElementsAre("pc", "pb", "pa"));
 }
 
 TEST_F(Prediction, TheClassOfTheWordBeforeWeighsTheClassOfTheCandidate) {
