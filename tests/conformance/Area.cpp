@@ -22,8 +22,8 @@ std::optional<Values> Area::Answer(const Text& operation, const Arguments& argum
 }
 
 void Area::OnFile(const std::filesystem::path& folder) {
-    On("file", [folder](const Arguments& a) { return ReadFile(a.In(folder)).bytes; });
-    On("file_lines_sorted", [folder](const Arguments& a) {
+    On("file", [folder](const auto& a) { return ReadFile(a.In(folder)).bytes; });
+    On("file_lines_sorted", [folder](const auto& a) {
         const FileBytes file = ReadFile(a.In(folder));
         LineReader reader(file.bytes, TextView::npos);
         Values lines;

@@ -1,6 +1,7 @@
 #include "keyboards/COnScreenKeyboard.h"
 #include "keyboards/KeyLayout.h"
 #include "tests/conformance/Area.h"
+#include "tests/support/FakeMeasures.h"
 
 namespace ondrilo::conformance {
 namespace {
@@ -27,15 +28,15 @@ class KeyboardArea : public Area {
   public:
     explicit KeyboardArea(const std::filesystem::path& folder) {
         OnFile(folder);
-        On("keyboard_defaults", [this](const Arguments& a) {
+        On("keyboard_defaults", [this](const auto& a) {
             settings.backgroundColor = a.Integer(0);
             settings.textColor = a.Integer(1);
         });
-        On("keyboard_load", [this, folder](const Arguments& a) {
+        On("keyboard_load", [this, folder](const auto& a) {
             keyboard.Open(a.In(folder), settings);
             return keyboard.Lines().size();
         });
-        On("keyboard_load_fails", [this, folder](const Arguments& a) {
+        On("keyboard_load_fails", [this, folder](const auto& a) {
             try {
                 keyboard.Open(a.In(folder), settings);
             } catch (const KeyboardLoadFailure&) {
@@ -43,35 +44,34 @@ class KeyboardArea : public Area {
             }
             return Values{"no failure"};
         });
-        On("keyboard_save", [this](const Arguments&) { return keyboard.Save(); });
-        On("keyboard_path", [](const Arguments& a) { return a.at(0) + KeyboardFileName(a.at(1)); });
-        On("keyboard_name", [](const Arguments& a) { return KeyboardName(a.at(0)); });
-        On("key_text", [](const Arguments& a) { return FieldsOf(COnScreenKeyData::FromHint(a.at(0))); });
+        On("keyboard_save", [this](const auto&) { return keyboard.Save(); });
+        On("keyboard_path", [](const auto& a) { return a.at(0) + KeyboardFileName(a.at(1)); });
+        On("keyboard_name", [](const auto& a) { return KeyboardName(a.at(0)); });
+        On("key_text", [](const auto& a) { return FieldsOf(COnScreenKeyData::FromHint(a.at(0))); });
         AddQueries();
     }
 
   private:
     void AddQueries() {
-        On("keyboard_options", [this](const Arguments&) {
+        On("keyboard_options", [this](const auto&) {
             return Values{Number(keyboard.OwnKeyHeight()), Number(keyboard.OwnImageHeight()),
                           keyboard.Description()};
         });
-        On("line", [this](const Arguments& a) {
+        On("line", [this](const auto& a) {
             const auto& line = keyboard.Lines().at(a.Index(0));
             return Values{line.name, std::to_string(line.groups.size())};
         });
-        On("group", [this](const Arguments& a) {
+        On("group", [this](const auto& a) {
             const auto& group = keyboard.Lines().at(a.Index(0)).groups.at(a.Index(1));
             return Values{group.name, std::to_string(group.keys.size())};
         });
-        On("key_fields", [this](const Arguments& a) {
+        On("key_fields", [this](const auto& a) {
             return FieldsOf(keyboard.Key({a.Integer(0), a.Integer(1), a.Integer(2)}).data);
         });
-        On("flat_key", [this](const Arguments& a) { return FieldsOf(keyboard.FlatKeys().at(a.Index(0))); });
+        On("flat_key", [this](const auto& a) { return FieldsOf(keyboard.FlatKeys().at(a.Index(0))); });
         On("keys_of_type",
-           [this](const Arguments& a) { return AddressesOf(keyboard.KeysOfType(KeyTypeOf(a.at(0)))); });
-        On("keys_by_output",
-           [this](const Arguments& a) { return AddressesOf(keyboard.KeysByOutput(a.at(0))); });
+           [this](const auto& a) { return AddressesOf(keyboard.KeysOfType(KeyTypeOf(a.at(0)))); });
+        On("keys_by_output", [this](const auto& a) { return AddressesOf(keyboard.KeysByOutput(a.at(0))); });
     }
 
     KeyboardSettings settings;
@@ -93,29 +93,17 @@ class ByteWidths : public TextMeasure {
     int textHeight = 0;
 };
 
-class GivenPictures : public PictureMeasure {
-  public:
-    [[nodiscard]] std::optional<Size> SizeOf(TextView pictogram) const override {
-        const auto size = sizes.find(Text(pictogram));
-        return size == sizes.end() ? std::nullopt : std::optional(size->second);
-    }
-
-    std::map<Text, Size> sizes;
-};
-
 /// Sizes and places of keys, with measures of its own for texts and pictures.
 class LayoutArea : public Area {
   public:
     explicit LayoutArea(const std::filesystem::path& folder) {
-        On("picture_size", [this](const Arguments& a) {
-            pictures.sizes[a.at(0)] = {a.Integer(1), a.Integer(2)};
-        });
-        On("set", [this](const Arguments& a) { Set(a.at(0), a.Integer(1)); });
-        On("layout", [this, folder](const Arguments& a) { return LayOut(a.In(folder)); });
-        On("line_box", [this](const Arguments& a) { return BoxOf(lines.at(a.Index(0)).place); });
+        On("picture_size", [this](const auto& a) { pictures.sizes[a.at(0)] = {a.Integer(1), a.Integer(2)}; });
+        On("set", [this](const auto& a) { Set(a.at(0), a.Integer(1)); });
+        On("layout", [this, folder](const auto& a) { return LayOut(a.In(folder)); });
+        On("line_box", [this](const auto& a) { return BoxOf(lines.at(a.Index(0)).place); });
         On("group_box",
-           [this](const Arguments& a) { return BoxOf(lines.at(a.Index(0)).groups.at(a.Index(1)).place); });
-        On("key_box", [this](const Arguments& a) {
+           [this](const auto& a) { return BoxOf(lines.at(a.Index(0)).groups.at(a.Index(1)).place); });
+        On("key_box", [this](const auto& a) {
             return BoxOf(lines.at(a.Index(0)).groups.at(a.Index(1)).keys.at(a.Index(2)).place);
         });
     }
@@ -159,7 +147,7 @@ class LayoutArea : public Area {
     int wordLetters = 0;
     int sentenceLetters = 0;
     ByteWidths text;
-    GivenPictures pictures;
+    FakePictureMeasure pictures;
     std::vector<COnScreenKeyLine> lines;
 };
 

@@ -43,17 +43,17 @@ class LearningArea : public VocabularyArea {
         auto& target = *given;
         targets.UseExternal(std::move(given));
 
-        On("learn_word", [this, &target](const Arguments& a) {
+        On("learn_word", [this, &target](const auto& a) {
             target.unit = a.at(0);
             target.before = a.at(1);
             learning.LearnWord();
         });
-        On("learn_sentence", [this, &target](const Arguments& a) {
+        On("learn_sentence", [this, &target](const auto& a) {
             target.previous = a.at(0);
             target.before = a.at(1);
             learning.LearnSentence();
         });
-        On("learn_current_sentence", [this, &target](const Arguments& a) {
+        On("learn_current_sentence", [this, &target](const auto& a) {
             target.unit = a.at(0);
             target.previous = a.at(1);
             learning.LearnCurrentSentence();

@@ -10,20 +10,20 @@ class ProfileArea : public Area {
   public:
     explicit ProfileArea(const std::filesystem::path& folder) {
         OnFile(folder);
-        On("profile_defaults", [](const Arguments&) { return CUserProfileProperties().Format(); });
-        On("profile_load_absent", [folder](const Arguments& a) {
+        On("profile_defaults", [](const auto&) { return CUserProfileProperties().Format(); });
+        On("profile_load_absent", [folder](const auto& a) {
             CUserProfileProperties absent;
             absent.Load(a.In(folder));
             return absent.Format();
         });
-        On("profile_load", [this, folder](const Arguments& a) {
+        On("profile_load", [this, folder](const auto& a) {
             profile = {};
             profile.Load(a.In(folder));
         });
-        On("profile_save", [this](const Arguments&) { return profile.Save(); });
-        On("profile_value", [this](const Arguments& a) { return ValueOf(a.at(0)); });
-        On("profile_active_keyboard", [this](const Arguments&) { return profile.activeKeyboardName; });
-        On("profile_spans", [this](const Arguments& a) { return Text(profile.GetTimeSpans(a.Integer(0))); });
+        On("profile_save", [this](const auto&) { return profile.Save(); });
+        On("profile_value", [this](const auto& a) { return ValueOf(a.at(0)); });
+        On("profile_active_keyboard", [this](const auto&) { return profile.activeKeyboardName; });
+        On("profile_spans", [this](const auto& a) { return Text(profile.GetTimeSpans(a.Integer(0))); });
     }
 
   private:
@@ -46,15 +46,15 @@ class OptionsArea : public Area {
   public:
     explicit OptionsArea(const std::filesystem::path& folder) {
         OnFile(folder);
-        On("options_defaults", [](const Arguments&) { return CSystemOptions().Format(); });
-        On("options_load", [this, folder](const Arguments&) {
+        On("options_defaults", [](const auto&) { return CSystemOptions().Format(); });
+        On("options_load", [this, folder](const auto&) {
             options = {};
             options.Load(folder / "configsis");
         });
-        On("options_value", [this](const Arguments& a) { return ValueOf(a.at(0)); });
-        On("options_set", [this](const Arguments& a) { Set(a.at(0), a.at(1)); });
-        On("options_set_priorities", [this](const Arguments& a) { options.SetPriorities(a); });
-        On("options_save", [this](const Arguments&) { return options.Save(); });
+        On("options_value", [this](const auto& a) { return ValueOf(a.at(0)); });
+        On("options_set", [this](const auto& a) { Set(a.at(0), a.at(1)); });
+        On("options_set_priorities", [this](const auto& a) { options.SetPriorities(a); });
+        On("options_save", [this](const auto&) { return options.Save(); });
     }
 
   private:

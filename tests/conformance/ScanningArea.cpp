@@ -18,32 +18,30 @@ class ScanningArea : public Area {
   public:
     explicit ScanningArea(const std::filesystem::path& folder) {
         AddBuilding(folder / "k.tec");
-        On("switch_down", [this](const Arguments& a) { scanning.SwitchDown(a.Integer(0)); });
-        On("switch_up", [this](const Arguments& a) { scanning.SwitchUp(a.Integer(0)); });
-        On("edit_mode", [this](const Arguments& a) { keyboard.SetEditing(a.at(0) == "1"); });
-        On("ticks", [this](const Arguments& a) { return Ticks(a.Integer(0)); });
-        On("scan_state", [this](const Arguments&) {
+        On("switch_down", [this](const auto& a) { scanning.SwitchDown(a.Integer(0)); });
+        On("switch_up", [this](const auto& a) { scanning.SwitchUp(a.Integer(0)); });
+        On("edit_mode", [this](const auto& a) { keyboard.SetEditing(a.at(0) == "1"); });
+        On("ticks", [this](const auto& a) { return Ticks(a.Integer(0)); });
+        On("scan_state", [this](const auto&) {
             const auto& now = scanning.Now();
             return NumbersOf(now.scanLine, now.scanGroup, now.scanKey, now.cycles, now.tickCounter,
                              now.switch1Count, now.switch2Count);
         });
-        On("scan_lit", [this](const Arguments&) {
+        On("scan_lit", [this](const auto&) {
             Values lit;
             for (const auto& key : keyboard.AllKeys())
                 if (keyboard.Key(key).highlighted)
                     lit.push_back(Number(key.Packed()));
             return lit;
         });
-        On("scan_cue", [this](const Arguments&) { return scanning.CueText(); });
+        On("scan_cue", [this](const auto&) { return scanning.CueText(); });
     }
 
   private:
     void AddBuilding(const std::filesystem::path& file) {
-        On("scan_line", [this](const Arguments& a) { content.lines.push_back({a.at(0), {}}); });
-        On("scan_group", [this](const Arguments& a) {
-            content.lines.back().groups.push_back({a.at(0), {}});
-        });
-        On("scan_key", [this](const Arguments& a) {
+        On("scan_line", [this](const auto& a) { content.lines.push_back({a.at(0), {}}); });
+        On("scan_group", [this](const auto& a) { content.lines.back().groups.push_back({a.at(0), {}}); });
+        On("scan_key", [this](const auto& a) {
             COnScreenKeyData key;
             key.type = "TECLA_NORMAL";
             key.label = key.output = "x";
@@ -51,7 +49,7 @@ class ScanningArea : public Area {
             key.description = a.at(1);
             content.lines.back().groups.back().keys.push_back(key);
         });
-        On("scan_start", [this, file](const Arguments& a) {
+        On("scan_start", [this, file](const auto& a) {
             auto saved = ReplaceFile(file, FormatKeyboard(content));
             keyboard.Open(file, SettingsFor(a));
             return saved;

@@ -41,7 +41,7 @@ class TextArea : public Area {
 class SelectionArea : public Area {
   public:
     explicit SelectionArea(const std::filesystem::path&) {
-        On("best", [](const Arguments& a) {
+        On("best", [](const auto& a) {
             std::vector<double> scores;
             for (std::size_t i = 2; i < a.size(); i += 2)
                 scores.push_back(ToNumber<double>(a[i]));

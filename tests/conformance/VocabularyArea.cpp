@@ -53,16 +53,16 @@ VocabularyArea::VocabularyArea(const std::filesystem::path& folder) : folder(fol
 
 void VocabularyArea::AddFiles() {
     OnFile(folder.Path());
-    On("load", [this](const Arguments& a) {
+    On("load", [this](const auto& a) {
         return Dictionary().LoadProfileDictionaries(folder, a.at(0), a.at(1) != "0");
     });
-    On("reload", [this](const Arguments&) {
+    On("reload", [this](const auto&) {
         Values messages = Dictionary().ReloadWords();
         Append(messages, Dictionary().ReloadSentences());
         return messages;
     });
-    On("save", [this](const Arguments&) { return Dictionary().SaveUserFiles(); });
-    On("totals", [this](const Arguments&) { return Totals(); });
+    On("save", [this](const auto&) { return Dictionary().SaveUserFiles(); });
+    On("totals", [this](const auto&) { return Totals(); });
 }
 
 Values VocabularyArea::Totals() {
@@ -75,10 +75,9 @@ Values VocabularyArea::Totals() {
 }
 
 void VocabularyArea::AddSearches() {
-    On("find_word", [this](const Arguments& a) { return PositionOf(Dictionary().FindWord(a.at(0))); });
-    On("find_sentence",
-       [this](const Arguments& a) { return PositionOf(Dictionary().FindSentence(a.at(0))); });
-    On("word", [this](const Arguments& a) {
+    On("find_word", [this](const auto& a) { return PositionOf(Dictionary().FindWord(a.at(0))); });
+    On("find_sentence", [this](const auto& a) { return PositionOf(Dictionary().FindSentence(a.at(0))); });
+    On("word", [this](const auto& a) {
         const CDictionaryWord word = Dictionary().GetWord(a.at(0));
         if (!word)
             return Values{};
@@ -86,7 +85,7 @@ void VocabularyArea::AddSearches() {
         Append(values, {word.WordClass(), Number(word.NextCount())});
         return values;
     });
-    On("sentence", [this](const Arguments& a) {
+    On("sentence", [this](const auto& a) {
         const CDictionarySentence sentence = Dictionary().GetSentence(a.at(0));
         if (!sentence)
             return Values{};
@@ -94,26 +93,25 @@ void VocabularyArea::AddSearches() {
         values.push_back(Number(sentence.NextCount()));
         return values;
     });
-    On("words_with_prefix", [this](const Arguments& a) {
+    On("words_with_prefix", [this](const auto& a) {
         std::vector<CDictionaryWord> found(a.Index(0));
         return TextsOf(found, Dictionary().WordsWithPrefix(a.at(1), found));
     });
-    On("sentences_with_prefix", [this](const Arguments& a) {
+    On("sentences_with_prefix", [this](const auto& a) {
         std::vector<CDictionarySentence> found(a.Index(0));
         return TextsOf(found, Dictionary().SentencesWithPrefix(a.at(1), found));
     });
 }
 
 void VocabularyArea::AddSuccessors() {
-    On("max_next_word", [this](const Arguments& a) { return MaximumOf(Dictionary().GetWord(a.at(0))); });
-    On("max_next_sentence",
-       [this](const Arguments& a) { return MaximumOf(Dictionary().GetSentence(a.at(0))); });
-    On("next_words", [this](const Arguments& a) {
+    On("max_next_word", [this](const auto& a) { return MaximumOf(Dictionary().GetWord(a.at(0))); });
+    On("max_next_sentence", [this](const auto& a) { return MaximumOf(Dictionary().GetSentence(a.at(0))); });
+    On("next_words", [this](const auto& a) {
         CDictionaryNextWordSet successors;
         Dictionary().NextWordSet(a.at(0), successors);
         return SuccessorsOf(successors);
     });
-    On("next_sentences", [this](const Arguments& a) {
+    On("next_sentences", [this](const auto& a) {
         CDictionaryNextSentenceSet successors;
         Dictionary().NextSentenceSet(a.at(0), successors);
         return SuccessorsOf(successors);
@@ -121,36 +119,36 @@ void VocabularyArea::AddSuccessors() {
 }
 
 void VocabularyArea::AddClasses() {
-    On("class_frequency", [this](const Arguments& a) { return Dictionary().wordClasses.Frequency(a.at(0)); });
+    On("class_frequency", [this](const auto& a) { return Dictionary().wordClasses.Frequency(a.at(0)); });
     On("class_pair_frequency",
-       [this](const Arguments& a) { return Dictionary().wordClassPairs.Frequency(a.at(0), a.at(1)); });
+       [this](const auto& a) { return Dictionary().wordClassPairs.Frequency(a.at(0), a.at(1)); });
 }
 
 void VocabularyArea::AddChanges() {
-    On("add_word", [this](const Arguments& a) { Dictionary().AddUserWord(a.at(0), a.Integer(1)); });
+    On("add_word", [this](const auto& a) { Dictionary().AddUserWord(a.at(0), a.Integer(1)); });
     On("add_word_pair",
-       [this](const Arguments& a) { Dictionary().AddUserWordPair(a.at(0), a.at(1), a.Integer(2)); });
-    On("add_sentence", [this](const Arguments& a) { Dictionary().AddUserSentence(a.at(0), a.Integer(1)); });
+       [this](const auto& a) { Dictionary().AddUserWordPair(a.at(0), a.at(1), a.Integer(2)); });
+    On("add_sentence", [this](const auto& a) { Dictionary().AddUserSentence(a.at(0), a.Integer(1)); });
     On("add_sentence_pair",
-       [this](const Arguments& a) { Dictionary().AddUserSentencePair(a.at(0), a.at(1), a.Integer(2)); });
+       [this](const auto& a) { Dictionary().AddUserSentencePair(a.at(0), a.at(1), a.Integer(2)); });
     On("set_word",
-       [this](const Arguments& a) { return Dictionary().SetUserWordFrequency(a.at(0), a.Integer(1)); });
+       [this](const auto& a) { return Dictionary().SetUserWordFrequency(a.at(0), a.Integer(1)); });
     On("set_sentence",
-       [this](const Arguments& a) { return Dictionary().SetUserSentenceFrequency(a.at(0), a.Integer(1)); });
-    On("remove_rarest_words", [this](const Arguments&) { Dictionary().RemoveRarestUserWords(); });
-    On("user_words", [this](const Arguments&) {
+       [this](const auto& a) { return Dictionary().SetUserSentenceFrequency(a.at(0), a.Integer(1)); });
+    On("remove_rarest_words", [this](const auto&) { Dictionary().RemoveRarestUserWords(); });
+    On("user_words", [this](const auto&) {
         Values values;
         for (int position = Dictionary().FirstWord(); position != -1;)
             AppendIfUsed(values, Dictionary().NextWord(position));
         return values;
     });
-    On("user_sentences", [this](const Arguments&) {
+    On("user_sentences", [this](const auto&) {
         Values values;
         for (int position = Dictionary().FirstSentence(); position != -1;)
             AppendIfUsed(values, Dictionary().NextSentence(position));
         return values;
     });
-    On("learn_file", [this](const Arguments& a) {
+    On("learn_file", [this](const auto& a) {
         const auto path = folder.Path(a.at(0));
         Dictionary().LearnWordsFromFile(path);
         Dictionary().LearnWordPairsFromFile(path);
@@ -161,12 +159,12 @@ void VocabularyArea::AddChanges() {
 
 void VocabularyArea::AddAbbreviations() {
     On("abbreviation",
-       [this](const Arguments& a) { return Dictionary().abbreviations.Find(a.at(0)).value_or(""); });
-    On("abbreviation_set", [this](const Arguments& a) { Dictionary().abbreviations.Set(a.at(0), a.at(1)); });
-    On("abbreviation_remove", [this](const Arguments& a) { Dictionary().abbreviations.Remove(a.at(0)); });
-    On("abbreviation_save", [this](const Arguments&) { return Dictionary().abbreviations.Save(); });
-    On("abbreviation_reload", [this](const Arguments&) { Dictionary().abbreviations.Reload(); });
-    On("abbreviations_sorted", [this](const Arguments&) {
+       [this](const auto& a) { return Dictionary().abbreviations.Find(a.at(0)).value_or(""); });
+    On("abbreviation_set", [this](const auto& a) { Dictionary().abbreviations.Set(a.at(0), a.at(1)); });
+    On("abbreviation_remove", [this](const auto& a) { Dictionary().abbreviations.Remove(a.at(0)); });
+    On("abbreviation_save", [this](const auto&) { return Dictionary().abbreviations.Save(); });
+    On("abbreviation_reload", [this](const auto&) { Dictionary().abbreviations.Reload(); });
+    On("abbreviations_sorted", [this](const auto&) {
         auto entries = Dictionary().abbreviations.Entries();
         std::sort(entries.begin(), entries.end());
         Values values;

@@ -31,7 +31,7 @@ Values FilteredBy(Filter filter, const Arguments& arguments) {
 } // namespace
 
 void VocabularyArea::AddPredictions() {
-    On("coefficients", [this](const Arguments& a) {
+    On("coefficients", [this](const auto& a) {
         const IntegerOption coefficients[] = {
             option::COEFICIENTE_FREQUENCIA_PALAVRA,
             option::COEFICIENTE_FREQUENCIA_PALAVRA_UTILIZADOR,
@@ -42,19 +42,19 @@ void VocabularyArea::AddPredictions() {
         for (std::size_t i = 0; i < std::size(coefficients); ++i)
             profile.Set(coefficients[i], a.Integer(i));
     });
-    On("predict_words", [this](const Arguments& a) {
+    On("predict_words", [this](const auto& a) {
         wordPredictor.Predict(Dictionary(), profile, a.at(1), a.at(2));
         return BestWords(a.Index(0));
     });
-    On("predict_word_forms", [this](const Arguments& a) {
+    On("predict_word_forms", [this](const auto& a) {
         wordPredictor.PredictForms(Dictionary(), profile, a.at(1), FormsOf(a));
         return BestWords(a.Index(0));
     });
-    On("predict_sentences", [this](const Arguments& a) {
+    On("predict_sentences", [this](const auto& a) {
         sentencePredictor.Predict(Dictionary(), profile, a.at(1), a.at(2));
         return BestSentences(a.Index(0));
     });
-    On("predict_sentence_forms", [this](const Arguments& a) {
+    On("predict_sentence_forms", [this](const auto& a) {
         sentencePredictor.PredictForms(Dictionary(), profile, a.at(1), FormsOf(a));
         return BestSentences(a.Index(0));
     });
@@ -73,8 +73,8 @@ Values VocabularyArea::BestSentences(std::size_t most) {
 }
 
 void VocabularyArea::AddFilters() {
-    On("filter_words", [](const Arguments& a) { return FilteredBy(FilterWords, a); });
-    On("filter_sentences", [](const Arguments& a) { return FilteredBy(FilterSentences, a); });
+    On("filter_words", [](const auto& a) { return FilteredBy(FilterWords, a); });
+    On("filter_sentences", [](const auto& a) { return FilteredBy(FilterSentences, a); });
 }
 
 } // namespace ondrilo::conformance

@@ -8,20 +8,20 @@ namespace {
 class WordSimulatorArea : public VocabularyArea {
   public:
     explicit WordSimulatorArea(const std::filesystem::path& folder) : VocabularyArea(folder) {
-        On("profile_set", [this](const Arguments& a) { options.Parse(a.at(0) + " " + a.at(1) + "\n"); });
-        On("count_words", [folder](const Arguments& a) {
+        On("profile_set", [this](const auto& a) { options.Parse(a.at(0) + " " + a.at(1) + "\n"); });
+        On("count_words", [folder](const auto& a) {
             CDictionary none;
             const CUserProfileProperties standard;
             CWordPredictionSimulator counter;
             (void)counter.Start(none, standard, a.In(folder));
             return counter.CountWords();
         });
-        On("words_start", [this, folder](const Arguments& a) {
+        On("words_start", [this, folder](const auto& a) {
             return simulator.Start(Dictionary(), options, a.In(folder)) ? Values{} : Values{"failed"};
         });
-        On("words_step", [this](const Arguments&) { return Step(); });
-        On("words_row", [this](const Arguments&) { return ResultsRow(simulator.Figures()); });
-        On("words_end", [this](const Arguments&) { return simulator.End(); });
+        On("words_step", [this](const auto&) { return Step(); });
+        On("words_row", [this](const auto&) { return ResultsRow(simulator.Figures()); });
+        On("words_end", [this](const auto&) { return simulator.End(); });
     }
 
   private:
