@@ -57,7 +57,7 @@ void AbbreviationController::ExpandAbbreviation() {
             services.agent.Play("RestPose");
         }
         state.pendingSimulatedKeys = keyboardSimulator.CountKeys(expansion) + 1;
-        if (services.log.IsOpen())
+        if (events.IsOpen())
             services.metrics.Count(Metric::Abbreviation);
         targets.Current()->DeleteCurrentWordLeft();
         keyboardSimulator.TypeText(expansion + " ");

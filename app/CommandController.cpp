@@ -39,11 +39,11 @@ void CommandController::ExecuteCommand(COnScreenKeyIdentifier key, const ActionO
     else if (call.name == "Mostrar-Predições-Seguintes"_w)
         ShowNextPredictions();
     else if (call.name == "Sintetizar-Fala-Palavra")
-        SpeakWord(origin);
+        SpeakWord(key, origin);
     else if (call.name == "Sintetizar-Fala-Frase")
-        SpeakSentence(origin);
+        SpeakSentence(key, origin);
     else if (call.name == "Sintetizar-Fala-Area-Trabalho")
-        SpeakAll(origin);
+        SpeakAll(key, origin);
     else if (call.name == "Sair-Aplicação"_w)
         frame.Close();
     else if (call.name == "Sintetizar-Descrição-Tecla"_w)
@@ -74,29 +74,30 @@ void CommandController::DeleteSentence() {
 }
 
 void CommandController::ShowNextPredictions() {
-    if (services.log.IsOpen())
+    if (events.IsOpen())
         services.metrics.Count(Metric::NextPredictions);
     keys.ShowNext();
 }
 
-void CommandController::SpeakWord(const ActionOrigin& origin) {
+void CommandController::SpeakWord(COnScreenKeyIdentifier key, const ActionOrigin& origin) {
     if (!targets.Current())
         return;
     const auto spoken = speech.SpeakWordOrImage();
-    LogSpoken(origin, spoken.isImage ? "IMAGE_" : "WORD_", spoken.text);
+    LogSpoken(key, origin, spoken.isImage ? "IMAGE_" : "WORD_", spoken.text);
 }
 
-void CommandController::SpeakSentence(const ActionOrigin& origin) {
-    LogSpoken(origin, "SENTENCE_", speech.SpeakCurrentSentence());
+void CommandController::SpeakSentence(COnScreenKeyIdentifier key, const ActionOrigin& origin) {
+    LogSpoken(key, origin, "SENTENCE_", speech.SpeakCurrentSentence());
 }
 
-void CommandController::SpeakAll(const ActionOrigin& origin) {
-    LogSpoken(origin, "ALL_", speech.SpeakAll());
+void CommandController::SpeakAll(COnScreenKeyIdentifier key, const ActionOrigin& origin) {
+    LogSpoken(key, origin, "ALL_", speech.SpeakAll());
 }
 
-void CommandController::LogSpoken(const ActionOrigin& origin, TextView what, TextView text) {
+void CommandController::LogSpoken(COnScreenKeyIdentifier key, const ActionOrigin& origin, TextView what,
+                                  TextView text) {
     if (events.IsOpen() && !text.empty())
-        events.Action(origin, Text("COMMAND_EXECUTION_SYNTHESIZE_").append(what).append(text));
+        events.Action(origin, Text("COMMAND_EXECUTION_SYNTHESIZE_").append(what).append(text), key);
 }
 
 void CommandController::SendMessage() {
@@ -118,7 +119,8 @@ void CommandController::SwitchLogging() {
 
 void CommandController::ExecuteKeySequence(COnScreenKeyIdentifier key, const ActionOrigin& origin) {
     const auto sequence = keyboard.Key(key).data.output;
-    events.Action(origin, "KEY_SEQUENCE_EXECUTION_" + sequence, key);
+    if (events.IsOpen())
+        events.Action(origin, "KEY_SEQUENCE_EXECUTION_" + sequence, key);
     if (targets.Current()) // nobody else tells of the keys
         state.pendingSimulatedKeys += CKeyboard::CountSequenceKeys(sequence);
     keyboardSimulator.PlaySequence(sequence);
@@ -126,7 +128,8 @@ void CommandController::ExecuteKeySequence(COnScreenKeyIdentifier key, const Act
 
 void CommandController::ExecuteProgram(COnScreenKeyIdentifier key, const ActionOrigin& origin) {
     const auto program = keyboard.Key(key).data.output;
-    events.Action(origin, "PROGRAM_EXECUTION_" + program, key);
+    if (events.IsOpen())
+        events.Action(origin, "PROGRAM_EXECUTION_" + program, key);
     programs.Start(program);
 }
 

@@ -31,13 +31,13 @@ class CommandController {
     void DeleteWord();
     void DeleteSentence();
     void ShowNextPredictions();
-    void SpeakWord(const ActionOrigin& origin);
-    void SpeakSentence(const ActionOrigin& origin);
-    void SpeakAll(const ActionOrigin& origin);
+    void SpeakWord(COnScreenKeyIdentifier key, const ActionOrigin& origin);
+    void SpeakSentence(COnScreenKeyIdentifier key, const ActionOrigin& origin);
+    void SpeakAll(COnScreenKeyIdentifier key, const ActionOrigin& origin);
     void SendMessage();
     void SwitchLogging();
     /// Logs what was spoken, if anything was.
-    void LogSpoken(const ActionOrigin& origin, TextView what, TextView text);
+    void LogSpoken(COnScreenKeyIdentifier key, const ActionOrigin& origin, TextView what, TextView text);
 
     FrameWindow& frame;
     ProgramStarter& programs;

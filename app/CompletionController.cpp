@@ -146,7 +146,7 @@ void CompletionController::Expect(TextView typed) {
 
 void CompletionController::CountCompletion(Completion::Kind kind, const Origin& origin,
                                            std::size_t prefixLength) {
-    if (services.log.IsOpen())
+    if (services.log.IsOpen() && !targets.IsPassword())
         services.metrics.Completed({kind, origin.source, origin.position, static_cast<int>(prefixLength)});
 }
 

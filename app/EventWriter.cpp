@@ -26,6 +26,10 @@ EventWriter::EventWriter(const Environment& environment, EventLog& log, const CU
       keyboard(keyboard), state(state) {
 }
 
+bool EventWriter::IsOpen() const {
+    return log.IsOpen() && !targets.IsPassword();
+}
+
 void EventWriter::Write(TextView event, TextView type, const Element& element) {
     log.Write(
         {"", Text(event), Text(type), element.address, element.center, Page(), state.context.Current()});
@@ -116,10 +120,10 @@ void EventWriter::Character(char c) {
 }
 
 void EventWriter::UpdateContext() {
-    if (!IsOpen())
+    if (!log.IsOpen())
         return;
     const auto* target = targets.Current();
-    if (!target || target->IsPassword())
+    if (!target || targets.IsPassword())
         return state.context.Clear();
     const auto sentence = target->GetWrittenSentence();
     state.context.Update(sentence.empty() ? target->GetTextWithLabels() : sentence);

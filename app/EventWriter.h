@@ -22,13 +22,15 @@ struct ActionOrigin {
     static ActionOrigin OfSwitch() { return {Kind::Switch, 0}; }
 };
 
-/// Writes what happens into the event log, if one is open. Callers that build a text for it ask IsOpen first.
+/// Writes what happens into the event log, if one is open. While the person writes a password nothing is
+/// told: keys, their places and the steps of scanning would give it away. Callers that build a text for it,
+/// and those that count what the log tells, ask IsOpen first.
 class EventWriter {
   public:
     EventWriter(const Environment& environment, EventLog& log, const CUserProfileSet& profiles,
                 const Targets& targets, const COnScreenKeyboard& keyboard, SessionState& state);
 
-    [[nodiscard]] bool IsOpen() const { return log.IsOpen(); }
+    [[nodiscard]] bool IsOpen() const;
     /// An action with its origin in the event column.
     void Action(const ActionOrigin& origin, TextView type, std::optional<COnScreenKeyIdentifier> key = {});
     void LineSelected(int line);

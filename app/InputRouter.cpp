@@ -80,7 +80,7 @@ void InputRouter::PersonIsActive() {
 }
 
 void InputRouter::Count(Metric metric) {
-    if (services.log.IsOpen())
+    if (events.IsOpen())
         services.metrics.Count(metric);
 }
 
@@ -162,14 +162,14 @@ bool InputRouter::SwitchUp(int code) {
 
 void InputRouter::SpeakWordByKey(int code) {
     const auto spoken = speech.SpeakWordOrImage();
-    if (!spoken.text.empty())
+    if (events.IsOpen() && !spoken.text.empty())
         events.Action(ActionOrigin::Key(code),
                       Text(spoken.isImage ? "SYNTHESIZE_IMAGE_" : "SYNTHESIZE_WORD_") + spoken.text);
 }
 
 void InputRouter::SpeakSentenceByKey(int code) {
     const auto spoken = speech.SpeakCurrentSentence();
-    if (!spoken.empty())
+    if (events.IsOpen() && !spoken.empty())
         events.Action(ActionOrigin::Key(code), "SYNTHESIZE_SENTENCE_" + spoken);
 }
 
@@ -206,14 +206,8 @@ void InputRouter::ButtonDown(int button) {
 void InputRouter::Character(char c) {
     if (IsOn(option::OUVIR_LETRAS))
         speech.SpeakText(TextView(&c, 1));
-    if (IsSecret())
-        return;
     Count(Metric::Character);
     events.Character(c);
-}
-
-bool InputRouter::IsSecret() const {
-    return targets.Current() && targets.Current()->IsPassword();
 }
 
 void InputRouter::WordEnd() {
@@ -221,7 +215,7 @@ void InputRouter::WordEnd() {
     countdowns.prediction.Restart();
     if (IsOn(option::OUVIR_PALAVRAS))
         speech.SpeakEndedWord();
-    if (!events.IsOpen() || !targets.Current() || IsSecret())
+    if (!events.IsOpen() || !targets.Current())
         return;
     Count(Metric::Word);
     events.Event("NEW_WORD", "WORD_" + targets.Current()->GetPreviousWord());
@@ -231,7 +225,7 @@ void InputRouter::SentenceEnd() {
     if (IsOn(option::OUVIR_FRASES))
         speech.SpeakEndedSentence();
     learning.LearnSentence();
-    if (!events.IsOpen() || !targets.Current() || IsSecret())
+    if (!events.IsOpen() || !targets.Current())
         return;
     const auto sentence = targets.Current()->GetPreviousSentence();
     if (Split(sentence, kTerminators).empty())

@@ -40,8 +40,6 @@ class InputRouter {
 
     void ButtonDown(int button);
     void Character(char c);
-    /// What is written into a password field stays out of the log.
-    [[nodiscard]] bool IsSecret() const;
     void WordEnd();
     void SentenceEnd();
 

@@ -82,9 +82,10 @@ bool KeyboardController::WantsToKeepChanges() {
 void KeyboardController::FollowKeyboardLink(COnScreenKeyIdentifier key, const ActionOrigin& origin) {
     auto name = keyboard.Key(key).data.output;
     name.resize(name.size() - kExtension.size());
-    events.Action(origin, "ON_SCREEN_KEYBOARD_CALL_" + name, key);
-    if (services.log.IsOpen())
+    if (events.IsOpen()) {
+        events.Action(origin, "ON_SCREEN_KEYBOARD_CALL_" + name, key);
         services.metrics.Count(Metric::KeyboardByKey);
+    }
     CloseKeyboard();
     profiles.Active().properties.activeKeyboardName = name;
     LoadKeyboard(name);

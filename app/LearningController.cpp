@@ -33,7 +33,7 @@ LearningController::LearningController(CUserProfileSet& profiles, const Targets&
 }
 
 bool LearningController::IsOn() const {
-    return targets.Current() && !targets.Current()->IsPassword() &&
+    return targets.Current() && !targets.IsPassword() &&
            profiles.Active().properties.IsOn(option::ADAPTACAO_UTILIZADOR);
 }
 

@@ -49,7 +49,7 @@ void ScanningController::Step(Message step) {
         events.Event("SWITCH1_DOWN", "START_SCANNING_GROUPS");
     else if (step == Message::UM_SCAN_KEYS)
         events.Event("SWITCH1_DOWN", "START_SCANNING_KEYS");
-    else
+    else if (events.IsOpen())
         events.Action({ActionOrigin::Kind::ScanTimer, 0},
                       Text("SCANNING_ADVANCE_").append(NameOf(scanning.CurrentLevel())));
     GiveCues();

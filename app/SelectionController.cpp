@@ -188,7 +188,7 @@ void SelectionController::SelectImage(COnScreenKeyIdentifier key, const ActionOr
     if (HearFirst(description, key, origin, family.spokenBefore))
         return;
     LogKey(origin, key, family.selected);
-    if (services.log.IsOpen()) {
+    if (events.IsOpen()) {
         const auto& list = keys.lists.*family.list;
         services.metrics.Count(family.count);
         services.metrics.Count(family.position, list.IndexOf(list.PositionOf(key).value_or(0)));
@@ -206,7 +206,7 @@ void SelectionController::SelectImage(COnScreenKeyIdentifier key, const ActionOr
 void SelectionController::SelectPictogramKey(COnScreenKeyIdentifier key, const ActionOrigin& origin) {
     const auto data = keyboard.Key(key).data;
     const bool several = CountPictograms(data.label) > 1;
-    if (services.log.IsOpen())
+    if (events.IsOpen())
         services.metrics.Count(several ? Metric::SelectedPictogramSentence : Metric::SelectedPictogram);
     if (HearFirst(data.description, key, origin,
                   several ? "SYNTHESIZE_IMAGE_SENTENCE_KEY_BEFORE_SELECTION"

@@ -48,11 +48,11 @@ class SelectionController {
     /// The stages before the writing; true if the selection is to be carried out now.
     bool PassStages(const TextSelection& selection);
     void Complete(const TextSelection& selection);
-    /// `suffix` and `prefix` stand around the name of what is selected.
+    /// `prefix` and `suffix` stand around the name of what is selected.
+    void Log(const TextSelection& selection, TextView prefix, TextView suffix);
     /// A key that is no text prediction, with its details.
     void LogKey(const ActionOrigin& origin, COnScreenKeyIdentifier key, TextView type);
     [[nodiscard]] Text DetailsOf(COnScreenKeyIdentifier key) const;
-    void Log(const TextSelection& selection, TextView prefix, TextView suffix);
     [[nodiscard]] Text DisplayText(const TextSelection& selection) const;
 
     struct ImageFamily;

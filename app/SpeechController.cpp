@@ -28,7 +28,7 @@ bool SpeechController::HasVoice() const {
 }
 
 Text SpeechController::SpeakText(TextView text) {
-    if (text.empty() || !HasVoice())
+    if (text.empty() || !HasVoice() || targets.IsPassword())
         return {};
     services.speech.Speak(text);
     return Text(text);

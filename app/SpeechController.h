@@ -11,9 +11,10 @@ class SpeechController {
     SpeechController(const CUserProfileSet& profiles, const Targets& targets, LearningController& learning,
                      const SessionServices& services);
 
-    /// The only way in which anything is spoken. Gives back the text, or nothing if the profile has no voice.
+    /// The only way in which anything is spoken. Gives back the text, or nothing if the profile has no voice
+    /// or a password is being written.
     Text SpeakText(TextView text);
-    /// The same in the voice of scanning.
+    /// The same in the voice of scanning, also for a password: who scans by ear could not write one else.
     void SpeakCue(TextView text);
 
     /// Word or pictogram, by what the insertion point follows.

@@ -14,6 +14,8 @@ class Targets {
     /// Null if the profile has no internal editor.
     [[nodiscard]] CInternalWordProcessor* Internal() const { return internal.get(); }
     [[nodiscard]] bool IsInternal() const { return current && current == internal.get(); }
+    /// What is written now is secret: it is neither learned, logged nor spoken.
+    [[nodiscard]] bool IsPassword() const { return current && current->IsPassword(); }
 
     void SetInternal(std::unique_ptr<CInternalWordProcessor> editor) { internal = std::move(editor); }
     /// The internal editor becomes the target in use; none if there is no editor.

@@ -212,12 +212,13 @@ TEST_F(RunningSystem, PredictionsLeaveOutWhatTheProfileDoesNotWant) {
     EXPECT_EQ(Key(kSentenceKey).data.label, "");
 }
 
-TEST_F(RunningSystem, WhatIsSecretIsNotLearned) {
+TEST_F(RunningSystem, WhatIsSecretIsNeitherLearnedNorLoggedNorSpoken) {
     struct PasswordField : CInternalWordProcessor {
         using CInternalWordProcessor::CInternalWordProcessor;
         [[nodiscard]] bool IsPassword() const override { return true; }
     };
-    StartWriting();
+    StartWriting("REGISTAR_EVENTOS 1\nREGISTA_EVENTOS_CONTROLO 1\nOUVIR_LETRAS 1\nOUVIR_PALAVRAS 1\n"
+                 "OUVIR_DEPOIS_COMPLETAR 1\nTECLA_SINTESE_PALAVRA F11\n");
     CKeyboard keyboard(keys);
     auto surface = std::make_unique<FakeTextSurface>();
     surface->ReplaceSelection("segredo ");
@@ -226,9 +227,17 @@ TEST_F(RunningSystem, WhatIsSecretIsNotLearned) {
     desktop.MoveFocus(7);
     Tick(6);
     ASSERT_EQ(view->TextTargets().Current()->GetPreviousWord(), "segredo");
+    services.log.written.clear();
+    queue.Post(Message::UM_KEY_DOWN, 'S');
+    queue.Post(Message::UM_CHAR, 's');
+    queue.Post(Message::UM_KEY_DOWN, vk::F1 + 10);
     queue.Post(Message::UM_WORD_END);
-    Drain();
+    Click("o");
+    SelectByScanning(KeyOf("l"));
     EXPECT_FALSE(view->Profiles().Active().dictionary.GetWord("segredo"));
+    EXPECT_TRUE(services.log.written.empty());
+    EXPECT_EQ(services.speech.spoken, Texts());
+    EXPECT_EQ(services.metrics.counts[Metric::KeyPress], 0);
     desktop.MoveFocus(1);
 }
 
