@@ -39,7 +39,7 @@ void AppendColumn(Text& line, TextView content) {
     if (content.empty())
         line += " -";
     for (const char c : content)
-        line += c == ' ' ? '_' : c;
+        line += IsWhiteSpace(c) ? '_' : c; // a window's title may hold a line end
 }
 
 } // namespace
