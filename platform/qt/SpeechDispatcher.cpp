@@ -20,6 +20,7 @@ constexpr auto kFresh = 5s;         ///< a text that waited longer is not said a
 constexpr auto kFirstPause = 100ms; ///< before a second try to connect; it doubles from try to try
 constexpr int kTries = 7;           ///< until the service is left alone
 constexpr auto kRest = 3s;          ///< after that, however much there is to say
+static_assert(kRest < kFresh, "what is said in the rest would be lost");
 constexpr auto kListPatience = 10s; ///< until a module tells its voices
 /// After a text was passed on, before the next one cuts it off. A module that is about to start does not hear
 /// that it should stop, says all of the old text and holds up the service meanwhile.
@@ -83,9 +84,11 @@ class SpeechDispatcher::Dialogue {
     void Connect();
     void Reconnect(bool reached);
     void Introduce();
+    void AskForModules();
     void AskForVoices();
     void AskForVoicesOf(const std::string& module);
     void BeReady();
+    [[nodiscard]] bool IsProven() const;
     void Serve();
     void Select(const SpeechVoice& voice, const SpeechManner& manner);
     void Offer();
@@ -99,7 +102,9 @@ class SpeechDispatcher::Dialogue {
     QTimer settling; ///< see kSettling
     Stage stage = Stage::Resting;
     int tries = 0;
+    bool mayStart = true; ///< the service; once in a row of tries
     SteadyClock::time_point rested;
+    SteadyClock::time_point ready;
 
     SpeechVoices voices;
     bool knowsVoices = false;
@@ -135,10 +140,13 @@ std::vector<Text> SpeechDispatcher::Dialogue::Voices() const {
 
 void SpeechDispatcher::Dialogue::Say(Wish wish) {
     newest = std::move(wish);
+    if (stage == Stage::Ready && !knowsVoices && IsProven())
+        return AskForModules(); // none was ready when it was asked; the text waits for the answer
     if (stage == Stage::Ready)
-        Serve();
-    else if (stage == Stage::Resting && !pause.isActive() && SteadyClock::now() - rested >= kRest)
-        pause.start(0);
+        return Serve();
+    if (stage == Stage::Resting && !pause.isActive())
+        pause.start(
+            std::max(0ms, std::chrono::ceil<std::chrono::milliseconds>(rested + kRest - SteadyClock::now())));
 }
 
 void SpeechDispatcher::Dialogue::GetReady(TextView description, const SpeechManner& manner) {
@@ -164,23 +172,35 @@ void SpeechDispatcher::Dialogue::Connect() {
 }
 
 void SpeechDispatcher::Dialogue::Reconnect(bool reached) {
+    if (IsProven())
+        tries = 0;
     stage = Stage::Resting;
     isTalking = false;
     settling.stop();
     if (const auto missed = std::exchange(offered, std::nullopt); missed && !newest)
         newest = missed;
-    if (tries == 1 && !reached && address.startable && starter.state() == QProcess::NotRunning)
+    if (!reached && std::exchange(mayStart, false) && address.startable &&
+        starter.state() == QProcess::NotRunning)
         starter.start("speech-dispatcher", {"--spawn"});
+    mayStart |= reached;
     if (tries < kTries) {
         pause.start(kFirstPause * (1 << tries) / 2);
         return;
     }
     tries = 0;
+    mayStart = true;
     rested = SteadyClock::now();
+    if (newest && newest->IsFresh())
+        pause.start(kRest);
+}
+
+/// Whether the connection has held for a while. One that breaks as soon as it stands counts as a try that
+/// failed, or there would be no end to them.
+bool SpeechDispatcher::Dialogue::IsProven() const {
+    return stage == Stage::Ready && SteadyClock::now() - ready >= kRest;
 }
 
 void SpeechDispatcher::Dialogue::Introduce() {
-    stage = Stage::Introducing;
     module.clear();
     voice.clear();
     Set("CLIENT_NAME", "user:ondrilo:main");
@@ -197,8 +217,14 @@ void SpeechDispatcher::Dialogue::Introduce() {
                     std::from_chars(line.text.data(), line.text.data() + line.text.size(), setting.standard);
                 setting.now = setting.standard;
             });
+    AskForModules();
+}
+
+void SpeechDispatcher::Dialogue::AskForModules() {
+    stage = Stage::Introducing;
     modules.clear();
-    voices = knowsVoices ? voices : SpeechVoices{};
+    if (!knowsVoices)
+        voices = {};
     connection.Send("LIST OUTPUT_MODULES\r\n", [this](const SsipLine& line) {
         if (!line.last && line.text != kSilentModule)
             modules.emplace_back(line.text);
@@ -233,7 +259,7 @@ void SpeechDispatcher::Dialogue::AskForVoicesOf(const std::string& asked) {
 void SpeechDispatcher::Dialogue::BeReady() {
     knowsVoices = !voices.IsEmpty();
     stage = Stage::Ready;
-    tries = 0;
+    ready = SteadyClock::now();
     Serve();
 }
 

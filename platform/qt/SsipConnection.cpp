@@ -39,6 +39,7 @@ void SsipConnection::Send(std::string_view bytes, OnLine onLine, Milliseconds pa
 void SsipConnection::Read() {
     const QByteArray bytes = socket.readAll();
     reader.Append({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    bool isAnswered = false;
     while (const auto line = reader.Next()) {
         if (line->IsEvent())
             continue;
@@ -47,8 +48,10 @@ void SsipConnection::Read() {
         expected.front().onLine(*line);
         if (line->last)
             expected.pop_front();
+        isAnswered = true;
     }
-    WaitForReply();
+    if (isAnswered) // else whoever sends half a line or events for ever would never be late
+        WaitForReply();
 }
 
 void SsipConnection::WaitForReply() {

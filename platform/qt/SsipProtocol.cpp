@@ -35,10 +35,11 @@ void SsipReader::Append(std::string_view bytes) {
 }
 
 std::optional<SsipLine> SsipReader::Next() {
-    constexpr std::size_t kHead = 4; // "249-"
+    constexpr std::size_t kHead = 4;            // "249-"
+    constexpr std::size_t kLongest = 64 * 1024; // bytes; no service says so much in a line
     const auto end = buffer.find('\n', taken);
     if (end == std::string::npos)
-        return std::nullopt;
+        return buffer.size() - taken > kLongest ? std::optional(SsipLine{}) : std::nullopt;
     auto line = std::string_view(buffer).substr(taken, end - taken);
     taken = end + 1;
     if (line.ends_with('\r'))

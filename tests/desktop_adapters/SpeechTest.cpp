@@ -4,6 +4,8 @@
 #include "tests/support/PrivateSpeechService.h"
 
 #include <QElapsedTimer>
+#include <QLocalServer>
+#include <QLocalSocket>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -124,6 +126,24 @@ TEST_F(SpeechTest, LeavesAHangingServiceAloneAndSaysTheNewestTextOnceWhenItGoesO
     service.GoOn();
     ASSERT_TRUE(Ends("novo"));
     EXPECT_EQ(service.Said(), kPlainly + "novo\nend|novo\n");
+}
+
+TEST(SpeechService, IsLeftInPeaceIfItHangsUpOnEverybody) {
+    const TemporaryFolder folder;
+    const auto path = folder.Path() / "socket";
+    QLocalServer service;
+    ASSERT_TRUE(service.listen(QString::fromStdString(path.string())));
+    int calls = 0;
+    QObject::connect(&service, &QLocalServer::newConnection, [&] {
+        auto* caller = service.nextPendingConnection();
+        caller->write(QByteArray("200 OK\r\n").repeated(10)); // to all that it is told and asked first
+        caller->disconnectFromServer();
+        ++calls;
+    });
+    const SpeechDispatcher speech({path.string(), false});
+    PassTime(1000);
+    EXPECT_GE(calls, 2);
+    EXPECT_LE(calls, 5);
 }
 
 TEST_F(SpeechTest, NeverSaysWhatIsStaleWhenAServiceComesLate) {
