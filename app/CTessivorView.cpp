@@ -19,7 +19,7 @@ CTessivorView::CTessivorView(const Environment& environment, const SessionServic
       userProfiles(environment.dataFolder, environment.boxes, environment.dialogs,
                    [this](TextView text) { this->environment.frame.SetStatusMessage(text); }),
       keyboardSimulator(environment.keys), writingClock(environment.clock),
-      events(environment, services.log, userProfiles, targets, keyboard, state),
+      events(environment.frame, environment.keys, services.log, userProfiles, targets, keyboard, state),
       specialKeys(userProfiles, keyboardSimulator.keySet, targets),
       predictionKeys(keyboard, predictions, specialKeys, userProfiles),
       cycle(userProfiles, targets, predictions, predictionKeys, services),

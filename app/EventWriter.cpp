@@ -20,10 +20,11 @@ constexpr std::array<NamedCharacter, 5> kNamedCharacters{{{'\b', "\\b", "CHAR_RE
 
 } // namespace
 
-EventWriter::EventWriter(const Environment& environment, EventLog& log, const CUserProfileSet& profiles,
-                         const Targets& targets, const COnScreenKeyboard& keyboard, SessionState& state)
-    : frame(environment.frame), keys(environment.keys), log(log), profiles(profiles), targets(targets),
-      keyboard(keyboard), state(state) {
+EventWriter::EventWriter(const FrameWindow& frame, const KeyOutput& keys, EventLog& log,
+                         const CUserProfileSet& profiles, const Targets& targets,
+                         const COnScreenKeyboard& keyboard, SessionState& state)
+    : frame(frame), keys(keys), log(log), profiles(profiles), targets(targets), keyboard(keyboard),
+      state(state) {
 }
 
 bool EventWriter::IsOpen() const {

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "app/Environment.h"
+#include "app/FrameWindow.h"
 #include "app/SessionState.h"
 #include "app/Targets.h"
 #include "keyboards/COnScreenKeyboard.h"
 #include "logging/EventLog.h"
+#include "platform/Keyboard.h"
 #include "profiles/store/CUserProfileSet.h"
 
 #include <optional>
@@ -27,8 +28,9 @@ struct ActionOrigin {
 /// and those that count what the log tells, ask IsOpen first.
 class EventWriter {
   public:
-    EventWriter(const Environment& environment, EventLog& log, const CUserProfileSet& profiles,
-                const Targets& targets, const COnScreenKeyboard& keyboard, SessionState& state);
+    EventWriter(const FrameWindow& frame, const KeyOutput& keys, EventLog& log,
+                const CUserProfileSet& profiles, const Targets& targets, const COnScreenKeyboard& keyboard,
+                SessionState& state);
 
     [[nodiscard]] bool IsOpen() const;
     /// An action with its origin in the event column.

@@ -1,6 +1,11 @@
+#include "app/EventWriter.h"
+#include "benchmarks/AllocationCounter.h"
 #include "benchmarks/Measures.h"
 #include "logging/CLog.h"
 #include "tests/support/FakeClock.h"
+#include "tests/support/FakeDialogs.h"
+#include "tests/support/FakeFrameWindow.h"
+#include "tests/support/FakeKeyOutput.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace ondrilo {
@@ -43,6 +48,31 @@ void WriteEvent(benchmark::State& state) {
     percentiles.Report(state);
 }
 BENCHMARK(WriteEvent)->Unit(benchmark::kMicrosecond)->Iterations(50'000)->UseRealTime();
+
+/// Without a log nothing is built for one.
+void WriteWithoutALog(benchmark::State& state) {
+    Logs logs;
+    Journal journal;
+    const FakeFrameWindow frame(journal);
+    const FakeKeyOutput keys;
+    FakeDialogs dialogs;
+    const CUserProfileSet profiles(logs.data, logs.boxes, dialogs);
+    const Targets targets;
+    const COnScreenKeyboard keyboard;
+    SessionState session;
+    EventWriter events(frame, keys, logs.log, profiles, targets, keyboard, session);
+    const auto before = Allocations();
+    while (state.KeepRunning()) {
+        events.Action(ActionOrigin::Key(vk::F1), "TEXT_KEY_SELECTION_of_a_long_text",
+                      COnScreenKeyIdentifier());
+        events.TypedKey(vk::F1, false);
+        events.Character('a');
+        events.UpdateContext();
+    }
+    if (Allocations() > before)
+        state.SkipWithError("something is built although no log is open");
+}
+BENCHMARK(WriteWithoutALog);
 
 } // namespace
 } // namespace ondrilo
