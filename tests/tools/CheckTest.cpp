@@ -27,21 +27,15 @@ std::vector<Text> Of(TextView file, CheckReport report) {
 
 class Check : public testing::Test {
   protected:
-    CheckReport Dictionaries() {
+    using CheckOf = void (*)(const DataFolder&, const std::vector<Text>&, CheckReport&);
+    CheckReport With(CheckOf check, const std::vector<Text>& profiles = {"generico", "ana"}) {
         CheckReport report;
-        CheckDictionaries(data, {"generico"}, report);
+        check(data, profiles, report);
         return report;
     }
-    CheckReport Options() {
-        CheckReport report;
-        CheckOptions(data, {"generico", "ana"}, report);
-        return report;
-    }
-    CheckReport Keyboards() {
-        CheckReport report;
-        CheckKeyboards(data, {"generico", "ana"}, report);
-        return report;
-    }
+    CheckReport Dictionaries() { return With(CheckDictionaries, {"generico"}); }
+    CheckReport Options() { return With(CheckOptions); }
+    CheckReport Keyboards() { return With(CheckKeyboards); }
 
     TemporaryFolder folder;
     DataFolder data{folder.Path()};

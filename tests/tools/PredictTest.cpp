@@ -1,17 +1,10 @@
 #include "tests/support/TemporaryFolder.h"
-#include "tools/Commands.h"
-
-#include <gtest/gtest.h>
-
-#include <iostream>
-#include <sstream>
+#include "tests/tools/RunTool.h"
 
 namespace ondrilo {
 namespace {
 
-constexpr ToolOption kEncoding = {"--encoding", "NAME", ""};
-
-/// Runs `predict` on a small data folder with these options and queries.
+/// What `predict` prints for a small data folder with these options and queries.
 std::string Answers(std::vector<std::string> words, const std::string& queries) {
     const TemporaryFolder folder;
     folder.Write("geral.pal", "casa 10\ncasaco 5\ncaso 1\nágua 4\n"_w);
@@ -20,19 +13,9 @@ std::string Answers(std::vector<std::string> words, const std::string& queries) 
         folder.Write(name, "");
     folder.Write("ana.cfg", "NUMERO_MAXIMO_PALAVRAS_PREDITAS 2\n");
     words.insert(words.end(), {"--data", folder.Path().string(), "--profile", "ana"});
-    std::vector<ToolOption> options(kPredictCommand.options.begin(), kPredictCommand.options.end());
-    options.push_back(kEncoding);
-
-    std::istringstream in(queries);
-    std::ostringstream out;
-    auto* const oldIn = std::cin.rdbuf(in.rdbuf());
-    auto* const oldOut = std::cout.rdbuf(out.rdbuf());
-    const auto code = kPredictCommand.run(Arguments(std::move(words), options));
-    std::cin.rdbuf(oldIn);
-    std::cin.clear();
-    std::cout.rdbuf(oldOut);
-    EXPECT_EQ(code, 0);
-    return out.str();
+    const auto ran = RunTool(kPredictCommand, std::move(words), queries);
+    EXPECT_EQ(ran.code, 0);
+    return ran.out;
 }
 
 TEST(Predict, AnswersEachQueryUpToTheNumberOfTheProfile) {

@@ -1,26 +1,10 @@
 #include "tests/support/TemporaryFolder.h"
-#include "tools/Commands.h"
-
-#include <gtest/gtest.h>
+#include "tests/tools/RunTool.h"
 
 #include <algorithm>
-#include <iostream>
-#include <sstream>
 
 namespace ondrilo {
 namespace {
-
-constexpr ToolOption kEncoding = {"--encoding", "NAME", ""};
-
-/// Takes what is printed, also when a command fails.
-struct CapturedOutput {
-    CapturedOutput() : former(std::cout.rdbuf(bytes.rdbuf())) {}
-    CapturedOutput(const CapturedOutput&) = delete;
-    CapturedOutput& operator=(const CapturedOutput&) = delete;
-    ~CapturedOutput() { std::cout.rdbuf(former); }
-    std::ostringstream bytes;
-    std::streambuf* former;
-};
 
 class Simulate : public testing::Test {
   protected:
@@ -31,16 +15,16 @@ class Simulate : public testing::Test {
             folder.Write(name, "");
         folder.Write("ana.cfg", "NUMERO_MAXIMO_PALAVRAS_PREDITAS 1\n");
     }
-    /// What is printed for a text with these options.
-    std::string Printed(const std::string& bytes, std::vector<std::string> words = {}) {
+    Ran OnText(const std::string& bytes, std::vector<std::string> words = {}) {
         texts.Write("texto.txt", bytes);
         words.insert(words.begin(), {"words", "--data", folder.Path().string(), "--profile", "ana", "--text",
                                      (texts.Path() / "texto.txt").string()});
-        std::vector<ToolOption> options(kSimulateCommand.options.begin(), kSimulateCommand.options.end());
-        options.push_back(kEncoding);
-        const CapturedOutput out;
-        EXPECT_EQ(kSimulateCommand.run(Arguments(std::move(words), options)), 0);
-        return out.bytes.str();
+        return RunTool(kSimulateCommand, std::move(words));
+    }
+    std::string Printed(const std::string& bytes, std::vector<std::string> words = {}) {
+        const auto ran = OnText(bytes, std::move(words));
+        EXPECT_EQ(ran.code, 0);
+        return ran.out;
     }
 
     TemporaryFolder folder;
@@ -68,7 +52,7 @@ TEST_F(Simulate, WritesARowARunAndLeavesTheDataAlone) {
         << "eleven figures a run, and a line between";
     EXPECT_EQ(folder.Read("ana.cfg"), "NUMERO_MAXIMO_PALAVRAS_PREDITAS 1\n");
     EXPECT_EQ(folder.Read("ana.pal"), "");
-    EXPECT_THROW(Printed("", {"--type", "3"}), UsageError);
+    EXPECT_EQ(OnText("", {"--type", "3"}).code, 2);
 }
 
 } // namespace

@@ -1,9 +1,7 @@
 #include "tests/support/TemporaryFolder.h"
-#include "text/Text.h"
-#include "tools/Commands.h"
+#include "tests/tools/RunTool.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace ondrilo {
 namespace {
@@ -19,9 +17,9 @@ class Vocabulary : public testing::Test {
             if (!word.starts_with("--"))
                 word = (folder.Path() / word).string();
         words.push_back("--out=" + folder.Path().string());
-        testing::internal::CaptureStdout();
-        EXPECT_EQ(kVocabularyCommand.run(Arguments(std::move(words), kVocabularyCommand.options)), 0);
-        report = testing::internal::GetCapturedStdout();
+        const auto ran = RunTool(kVocabularyCommand, std::move(words));
+        EXPECT_EQ(ran.code, 0);
+        report = ran.out;
     }
     [[nodiscard]] std::string File(const std::string& name) const { return ToUtf8(folder.Read(name)); }
 
@@ -78,30 +76,17 @@ TEST_F(Vocabulary, WritesNothingBeyondWhatADictionaryHolds) {
         lexicon += "p" + std::to_string(i) + "\n";
     folder.Write("lexicon", lexicon);
     const auto text = folder.Write("t.txt", "um\n").string();
-    const Arguments arguments(
-        {text, "--out", folder.Path().string(), "--lexicon", (folder.Path() / "lexicon").string()},
-        kVocabularyCommand.options);
-    testing::internal::CaptureStderr();
-    EXPECT_EQ(kVocabularyCommand.run(arguments), 1);
-    EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("250000"));
+    const auto ran = RunTool(kVocabularyCommand, {text, "--out", folder.Path().string(), "--lexicon",
+                                                  (folder.Path() / "lexicon").string()});
+    EXPECT_EQ(ran.code, 1);
+    EXPECT_THAT(ran.problems, HasSubstr("250000"));
     EXPECT_FALSE(std::filesystem::exists(folder.Path() / "geral.pal"));
 }
 
-/// What `corpus` says of one text, and whether it passes.
-struct Verdict {
-    int code = 0;
-    std::string out, problems;
-};
-Verdict Judge(TextView text, std::vector<std::string> options) {
+Ran Judge(TextView text, std::vector<std::string> options) {
     const TemporaryFolder folder;
     options.push_back(folder.Write("t.txt", text).string());
-    testing::internal::CaptureStdout();
-    testing::internal::CaptureStderr();
-    Verdict verdict;
-    verdict.code = kCorpusCommand.run(Arguments(std::move(options), kCorpusCommand.options));
-    verdict.out = testing::internal::GetCapturedStdout();
-    verdict.problems = testing::internal::GetCapturedStderr();
-    return verdict;
+    return RunTool(kCorpusCommand, std::move(options));
 }
 
 TEST(Corpus, FailsPastEachBoundAndNamesTheRepeats) {
