@@ -1,11 +1,10 @@
 #include "platform/FileStore.h"
 
+#include "tests/support/FullDisk.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -55,14 +54,11 @@ TEST_F(FileStoreTest, KeepsEveryByteOfABigFile) {
 
 TEST_F(FileStoreTest, AFullDiskKeepsTheOldFileAndIsTold) {
     folder.Write("ana.pal", "casa 3\n");
-    std::signal(SIGXFSZ, SIG_IGN); // comes with the limit and would end the program
-    rlimit before{};
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit full{1000, before.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &full);
-    const auto result = ReplaceFile(At("ana.pal"), Text(5000, 'x'));
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    EXPECT_EQ(result.problem, "Não foi possível guardar o ficheiro ana.pal"_w);
+    {
+        const FullDisk disk(1000);
+        EXPECT_EQ(ReplaceFile(At("ana.pal"), Text(5000, 'x')).problem,
+                  "Não foi possível guardar o ficheiro ana.pal"_w);
+    }
     EXPECT_EQ(folder.Read("ana.pal"), "casa 3\n");
     EXPECT_THAT(Names(), ElementsAre("ana.pal")) << "half a file is not left behind";
     EXPECT_TRUE(ReplaceFile(At("ana.pal"), "nova 1\n")) << "once there is room again";
