@@ -19,8 +19,7 @@ class FakeDialogs : public Dialogs {
         return objections.back().empty() ? newProfile : std::nullopt;
     }
     [[nodiscard]] std::optional<Text> AskPassword() override { return password; }
-    [[nodiscard]] std::optional<std::filesystem::path> ChooseFolder(TextView title) override {
-        folderTitle = title;
+    [[nodiscard]] std::optional<std::filesystem::path> ChooseFolder(TextView) override {
         return chosenFolder;
     }
     [[nodiscard]] bool EditEntries(EntryList& entries) override { return inEntries && inEntries(entries); }
@@ -30,7 +29,7 @@ class FakeDialogs : public Dialogs {
             inSimulator(simulator);
     }
     void ShowMetrics(const std::vector<Text>& lines) override { shownMetrics = lines; }
-    void ShowAbout() override { ++abouts; }
+    void ShowAbout() override {}
 
     std::optional<Text> chosenProfile;
     std::vector<Text> offeredProfiles;
@@ -39,11 +38,9 @@ class FakeDialogs : public Dialogs {
     std::optional<Text> password;
     std::optional<std::filesystem::path> chosenFile;
     std::optional<std::filesystem::path> chosenFolder;
-    Text folderTitle;
     std::function<bool(EntryList&)> inEntries;   ///< what the person does in the window; true: OK
     std::function<void(Simulator&)> inSimulator; ///< what the person does in the window
     std::vector<Text> shownMetrics;
-    int abouts = 0;
 };
 
 } // namespace ondrilo

@@ -48,14 +48,14 @@ class FakeTextSurface : public TextSurface {
                 picture.index = index;
     }
 
-    void SetFontSize(int points) override { fontSize = points; }
-    void SetFontName(TextView name) override { fontName = name; }
+    void SetFontSize(int) override {}
+    void SetFontName(TextView) override {}
     void SetWidth(int pixels) override { area.width = pixels; }
     void SetHeight(int pixels) override { area.height = pixels; }
     void Move(Point corner) override { area.x = corner.x, area.y = corner.y; }
     [[nodiscard]] Size GetSize() const override { return {area.width, area.height}; }
     void TakeFocus() override { hasFocus = true; }
-    void SetMouseEnabled(bool enabled) override { mouseEnabled = enabled; }
+    void SetMouseEnabled(bool) override {}
     [[nodiscard]] Point CaretPosition() const override { return caret; }
     [[nodiscard]] Rectangle ScreenArea() const override { return area; }
     [[nodiscard]] bool IsUnder(Point screen) const override { return area.Contains(screen); }
@@ -99,9 +99,6 @@ class FakeTextSurface : public TextSurface {
     Point caret;
     WindowId window = 1;
     bool hasFocus = false;
-    bool mouseEnabled = true;
-    int fontSize = 0;
-    Text fontName;
     TextSurfaceListener* listener = nullptr;
 
   private:
