@@ -119,9 +119,8 @@ TEST_F(DictionaryLoad, SentencesAreStoredNormalised) {
     Write("geral.paf", "BOM|DIA. como|estás? 3\n"_w);
     Write("ana.frs", "| 9\n");
     (void)Load();
-    EXPECT_TRUE(dictionary.GetSentence(" \r\nbom \t DIA."));
     CDictionaryNextSentenceSet next;
-    ASSERT_EQ(dictionary.NextSentenceSet("Bom dia.", next), 1U);
+    ASSERT_EQ(dictionary.NextSentenceSet(" \r\nbom \t DIA.", next), 1U);
     EXPECT_EQ(next[0].frequency, 3);
     EXPECT_EQ(dictionary.SentenceCount(), 2) << "a sentence of blanks would come back as the sentence \"9\"";
 }
