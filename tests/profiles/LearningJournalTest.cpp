@@ -7,8 +7,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <random>
-
 namespace ondrilo {
 namespace {
 
@@ -100,19 +98,16 @@ TEST_F(LearningJournalTest, ALineThatACrashCutOffIsForgottenAndSpoilsNoLaterOne)
     }
 }
 
-TEST_F(LearningJournalTest, OddBytesTeachNothing) {
-    std::mt19937 random(7);
-    const TextView pieces[] = {"p", "P",  "f",   "F", "\t", "\t", "\n", "=", "-1", "99999999999999999999",
-                               "x", "\r", "\xFF"};
-    for (int round = 0; round < 300; ++round) {
+TEST_F(LearningJournalTest, OddLinesTeachNothing) {
+    run->Learn(kFirst);
+    const Text lines = folder.Read("ana.jrn");
+    const Text versions = lines.substr(0, lines.rfind('\n', lines.size() - 2) + 1);
+    for (const TextView odd : {"", "p", "P\ta", "p\ta\tP\ta", "x\ta", "p\ta\t", "=\tp\t-1\t", "\xFF\r"}) {
         run.reset();
-        Text bytes;
-        for (int i = 0; i < 60; ++i)
-            bytes += pieces[random() % std::size(pieces)];
-        folder.Write("ana.jrn", bytes + "\n");
+        folder.Write("ana.jrn", versions + Text(odd) + "\n");
         Start();
-        EXPECT_EQ(Dictionary().WordCount() + Dictionary().SentenceCount(), 1);
-        EXPECT_FALSE(HasJournal());
+        EXPECT_EQ(Dictionary().WordCount() + Dictionary().SentenceCount(), 1) << odd;
+        EXPECT_FALSE(HasJournal()) << odd;
     }
 }
 

@@ -23,18 +23,16 @@ Text LineOf(const CUserProfileProperties& profile, TextView key) {
     return "no line";
 }
 
-TEST(ProfileFile, HoldsEveryKeyOnceInTheOrderOfTheTable) {
-    const auto lines = Split(CUserProfileProperties().Format(), "\n", kAllTokens);
-    ASSERT_EQ(lines.size(), 99U);
+TEST(ProfileFile, HoldsEveryKeyInTheOrderOfTheTableAndTheDefaultsWhereNothingIsRead) {
+    const TemporaryFolder folder;
+    CUserProfileProperties profile;
+    profile.Load(folder.Path() / "ana.cfg");
+    ASSERT_TRUE(profile.Save()) << "a missing file is created";
+    EXPECT_EQ(folder.Read("ana.cfg"), Parsed("").Format());
+    const auto lines = Split(profile.Format(), "\n", kAllTokens);
+    ASSERT_EQ(lines.size(), std::size(kProfileOptions));
     for (std::size_t i = 0; i < lines.size(); ++i)
         EXPECT_TRUE(lines[i].starts_with(Text(kProfileOptions[i].key) + " ")) << lines[i];
-    EXPECT_EQ(lines.front(), "POSICAO_INICIAL_JANELA_X 0");
-    EXPECT_EQ(lines.back(), "BLOQUEAR_MENU 0");
-}
-
-TEST(ProfileFile, OfNoSizeLeavesTheDefaultsStanding) {
-    const auto profile = Parsed("");
-    EXPECT_EQ(profile.Format(), CUserProfileProperties().Format());
     EXPECT_EQ(profile.Get(option::TEMPO_DE_PREDICAO), 1000);
     EXPECT_EQ(profile.Get(option::TECLA_MANIPULO2), "Num5");
     EXPECT_EQ(profile.activeKeyboardName, "QwertySimples");
@@ -52,35 +50,25 @@ TEST(ProfileFile, AKeyWithoutReadableValueIsClearedAndNotLeftAtItsDefault) {
     EXPECT_EQ(profile.activeKeyboardName, "");
 }
 
-TEST(ProfileFile, SkipsWhatIsNoKeyAndTakesTheLastOfTwo) {
-    const auto profile = Parsed("# ALTURA_TECLAS 1\n\naltura_teclas 2\nALTURA_TECLAS2 3\n"
-                                "ALTURA_TECLAS 70\nCHAVE_FUTURA 4\nALTURA_TECLAS 80\n");
-    EXPECT_EQ(profile.Get(option::ALTURA_TECLAS), 80);
+TEST(ProfileFile, SkipsWhatIsNoKeyAndTakesTheLastOfTwoAndNumbersWithoutAnyRange) {
+    const auto profile = Parsed("# ALTURA_TECLAS 1\n\naltura_teclas 2\nALTURA_TECLAS2 3\r\n"
+                                "ALTURA_TECLAS 70\nCHAVE_FUTURA 4\nALTURA_TECLAS 8000\r\n"
+                                "TEMPO_DE_PREDICAO -5\r\nTIPO_LETRA Comic;;;Sans;;;MS\r\n");
+    EXPECT_EQ(profile.Get(option::ALTURA_TECLAS), 8000);
     EXPECT_EQ(profile.Get(option::ALTURA_TECLAS_IMAGENS), 50);
-}
-
-TEST(ProfileFile, ReadsLinesThatEndInCarriageReturnAndLineFeed) {
-    const auto profile = Parsed("TIPO_LETRA Comic;;;Sans;;;MS\r\nALTURA_TECLAS 70\r\n");
-    EXPECT_EQ(profile.Get(option::TIPO_LETRA), "Comic Sans MS");
-    EXPECT_EQ(profile.Get(option::ALTURA_TECLAS), 70);
-}
-
-TEST(ProfileFile, TakesNumbersAsTheyStandWithoutAnyRange) {
-    const auto profile = Parsed("TEMPO_DE_PREDICAO -5\nNUMERO_MAXIMO_PALAVRAS_PREDITAS 5000\n"
-                                "RAIO_LOCAL_FISICO 250\nALTURA_TECLAS 4294967297\n");
     EXPECT_EQ(profile.Get(option::TEMPO_DE_PREDICAO), -5);
-    EXPECT_EQ(profile.Get(option::NUMERO_MAXIMO_PALAVRAS_PREDITAS), 5000);
-    EXPECT_EQ(profile.Get(option::RAIO_LOCAL_FISICO), 250);
-    EXPECT_EQ(profile.Get(option::ALTURA_TECLAS), 1);
+    EXPECT_EQ(profile.Get(option::TIPO_LETRA), "Comic Sans MS");
 }
 
-TEST(ProfileFile, ALineOfMoreThan499BytesBecomesTwo) {
+TEST(ProfileFile, ALineOfMoreThan499BytesBecomesTwoAndAWeekHasSevenDays) {
     const Text spans(499 - Text("INTERVALOS_TEMPO_DOMINGO ").size(), 'x');
-    const auto profile =
-        Parsed("INTERVALOS_TEMPO_DOMINGO " + spans + "ALTURA_TECLAS 33\nALTURA_EDITOR_MENSAGENS 9\n");
+    const auto profile = Parsed("INTERVALOS_TEMPO_DOMINGO " + spans +
+                                "ALTURA_TECLAS 33\nINTERVALOS_TEMPO_SABADO 10:00-11:00\n");
     EXPECT_EQ(profile.GetTimeSpans(1), spans);
     EXPECT_EQ(profile.Get(option::ALTURA_TECLAS), 33);
-    EXPECT_EQ(profile.Get(option::ALTURA_EDITOR_MENSAGENS), 9);
+    EXPECT_EQ(profile.GetTimeSpans(7), "10:00-11:00");
+    EXPECT_EQ(profile.GetTimeSpans(0), "");
+    EXPECT_EQ(profile.GetTimeSpans(8), "");
 }
 
 TEST(ProfileFile, OnlyTheSixFreeTextsKeepTheirBlanks) {
@@ -102,7 +90,6 @@ TEST(ProfileFile, OnlyTheSixFreeTextsKeepTheirBlanks) {
         EXPECT_EQ(read.Get(TextOption{option.index}), keeps ? "a b  c" : "a") << option.key;
     }
     EXPECT_EQ(LineOf(written, "TIPO_LETRA"), "TIPO_LETRA a;;;b;;;;;;c");
-    EXPECT_EQ(LineOf(written, "NOME_AGENTE"), "NOME_AGENTE a b  c");
 }
 
 TEST(ProfileFile, CoordinatesKeepSixDecimalsWhateverTheLocale) {
@@ -123,31 +110,6 @@ TEST(ProfileFile, WritesTheKeyboardOfTheProfileAndNotTheOneOnShow) {
     EXPECT_EQ(profile.activeKeyboardName, "Frases");
     profile.activeKeyboardName = "Numeros";
     EXPECT_EQ(LineOf(profile, "NOME_TECLADO"), "NOME_TECLADO Frases");
-}
-
-TEST(ProfileFile, AWeekdayOutsideTheWeekHasNoTimeSpans) {
-    const auto profile =
-        Parsed("INTERVALOS_TEMPO_DOMINGO 08:30-12:00;14:00-17:15\nINTERVALOS_TEMPO_SABADO 10:00-11:00\n");
-    EXPECT_EQ(profile.GetTimeSpans(1), "08:30-12:00;14:00-17:15");
-    EXPECT_EQ(profile.GetTimeSpans(7), "10:00-11:00");
-    EXPECT_EQ(profile.GetTimeSpans(0), "");
-    EXPECT_EQ(profile.GetTimeSpans(8), "");
-}
-
-TEST(ProfileFile, ThatIsMissingIsCreatedAtTheNextSave) {
-    const TemporaryFolder folder;
-    CUserProfileProperties profile;
-    profile.Load(folder.Path() / "ana.cfg");
-    ASSERT_TRUE(profile.Save());
-    EXPECT_EQ(folder.Read("ana.cfg"), CUserProfileProperties().Format());
-}
-
-TEST(ProfileFile, SurvivesBinaryRubbish) {
-    Text rubbish;
-    for (int i = 0; i < 5000; ++i)
-        rubbish += static_cast<char>(i * 7919 >> 3);
-    const auto profile = Parsed(rubbish + "\nALTURA_TECLAS 44\nALTURA_TECLAS");
-    EXPECT_EQ(profile.Get(option::ALTURA_TECLAS), 0);
 }
 
 } // namespace

@@ -42,13 +42,17 @@ class ProfileSet : public testing::Test {
                              }};
 };
 
-TEST_F(ProfileSet, BeginsWithTheGenericProfileEvenWithoutAList) {
+TEST_F(ProfileSet, WithoutAListThereIsTheGenericProfileWhichAlsoStandsForUnknownOnes) {
     std::filesystem::remove(folder.Path() / "utils");
     profiles.Load();
     EXPECT_EQ(profiles.Count(), 1);
-    EXPECT_EQ(profiles.At(0).properties.profileName, "generico");
     EXPECT_THROW((void)profiles.Active(), std::invalid_argument);
     EXPECT_THROW((void)profiles.At(1), std::invalid_argument);
+    EXPECT_EQ(profiles.Open("eva"), 0);
+    EXPECT_THAT(boxes.shown,
+                ElementsAre("O perfil de utilizador eva não está disponível! Será carregado o perfil "
+                            "de utilizador genérico."_w));
+    EXPECT_EQ(profiles.Active().properties.profileName, "generico");
 }
 
 TEST_F(ProfileSet, ReadsTheListWordByWordAndTellsCaseApart) {
@@ -61,26 +65,7 @@ TEST_F(ProfileSet, ReadsTheListWordByWordAndTellsCaseApart) {
     EXPECT_FALSE(profiles.ProfileExists("generico"));
 }
 
-TEST_F(ProfileSet, AnUnknownNameIsToldAndOpensTheGenericProfile) {
-    profiles.Load();
-    EXPECT_EQ(profiles.Open("eva"), 0);
-    EXPECT_THAT(boxes.shown,
-                ElementsAre("O perfil de utilizador eva não está disponível! Será carregado o perfil "
-                            "de utilizador genérico."_w));
-    EXPECT_EQ(profiles.Active().properties.profileName, "generico");
-}
-
-TEST_F(ProfileSet, MissingDictionariesAreToldInTheOrderInWhichTheyAreRead) {
-    folder.Write("utils", "eva\n");
-    profiles.Load();
-    profiles.Open("eva");
-    EXPECT_THAT(boxes.shown, ElementsAre("Erro na abertura do ficheiro de palavras do utilizador"_w,
-                                         "Erro na abertura do ficheiro de pares de palavras do utilizador."_w,
-                                         "Erro na abertura do ficheiro de frases do utilizador"_w,
-                                         "Erro na abertura do ficheiro de pares de frases do utilizador."_w));
-}
-
-TEST_F(ProfileSet, LeavingAProfileWritesItsOptionsAndWhatItLearned) {
+TEST_F(ProfileSet, LeavingAProfileOrTheProgramWritesItsOptionsAndWhatItLearned) {
     profiles.Load();
     profiles.Open("ana");
     profiles.Active().dictionary.AddUserWord("gato", 2);
@@ -91,16 +76,17 @@ TEST_F(ProfileSet, LeavingAProfileWritesItsOptionsAndWhatItLearned) {
     EXPECT_TRUE(Exists("ana.cfg"));
     EXPECT_FALSE(Exists("rui.cfg"));
     EXPECT_EQ(profiles.At(1).dictionary.WordCount(), 0);
-    EXPECT_EQ(profiles.Active().dictionary.WordCount(), 2);
+    folder.Write("rui.pal", "gato 7\nlido 1\n");
+    profiles.Open("rui");
+    EXPECT_EQ(profiles.Active().dictionary.WordCount(), 3) << "opened again, it is read again";
+    profiles.Active().dictionary.AddUserWord("novo");
+    profiles.Active().Set(option::ALTURA_TECLAS, 77);
+    profiles.Release();
+    profiles.Close();
+    EXPECT_EQ(folder.Read("rui.pal"), "gato 7\nlido 1\nnovo 1\n");
+    EXPECT_NE(folder.Read("rui.cfg").find("ALTURA_TECLAS 77\n"), Text::npos);
+    EXPECT_EQ(profiles.ActiveIndex(), -1);
     EXPECT_THAT(told, IsEmpty());
-}
-
-TEST_F(ProfileSet, OpeningTheActiveProfileAgainReloadsItsDictionary) {
-    profiles.Load();
-    profiles.Open("ana");
-    folder.Write("ana.pal", "gato 7\nnovo 1\n");
-    profiles.Open("ana");
-    EXPECT_EQ(profiles.Active().dictionary.WordCount(), 3);
 }
 
 TEST_F(ProfileSet, ADictionaryKeptInMemoryIsReadOnceAndSavedAtTheEnd) {
@@ -117,18 +103,6 @@ TEST_F(ProfileSet, ADictionaryKeptInMemoryIsReadOnceAndSavedAtTheEnd) {
     profiles.Close();
     EXPECT_EQ(folder.Read("ana.pal"), "novo 1\n");
     EXPECT_EQ(profiles.Count(), 0);
-}
-
-TEST_F(ProfileSet, TheEndSavesTheActiveProfileWithItsDictionary) {
-    profiles.Load();
-    profiles.Open("ana");
-    profiles.Active().dictionary.AddUserWord("novo");
-    profiles.Active().Set(option::ALTURA_TECLAS, 77);
-    profiles.Release();
-    profiles.Close();
-    EXPECT_EQ(folder.Read("ana.pal"), "novo 1\n");
-    EXPECT_NE(folder.Read("ana.cfg").find("ALTURA_TECLAS 77\n"), Text::npos);
-    EXPECT_EQ(profiles.ActiveIndex(), -1);
 }
 
 TEST_F(ProfileSet, ANewProfileStartsFromTheBaseOptionsWithEmptyDictionaries) {
@@ -150,41 +124,31 @@ TEST_F(ProfileSet, ANewProfileStartsFromTheBaseOptionsWithEmptyDictionaries) {
     EXPECT_THAT(boxes.shown, IsEmpty());
 }
 
-TEST_F(ProfileSet, RemovingForgetsTheNameButKeepsTheFiles) {
+TEST_F(ProfileSet, TheGenericProfileAndTheActiveOneStayAndOfAnotherTheNameIsForgottenButNotItsFiles) {
     profiles.Load();
     profiles.Open("rui");
-    dialogs.chosenProfile = "ana";
-    boxes.answers = {Answer::Yes};
-    profiles.RemoveProfile();
-    EXPECT_THAT(boxes.shown, ElementsAre("Quer mesmo remover o perfil ana?"));
+    const auto remove = [this](std::optional<Text> name, std::deque<Answer> answers) {
+        dialogs.chosenProfile = std::move(name);
+        boxes.answers = std::move(answers);
+        profiles.RemoveProfile();
+    };
+    remove("generico", {});
+    remove("rui", {Answer::Yes});
+    remove("ana", {Answer::No});
+    remove(std::nullopt, {});
+    EXPECT_THAT(
+        boxes.shown,
+        ElementsAre("Não é possível apagar o perfil de utilizador genérico."_w,
+                    "Quer mesmo remover o perfil rui?",
+                    "Este perfil de utilizador encontra-se activo e por isso não pode ser removido."_w,
+                    "Quer mesmo remover o perfil ana?"));
     EXPECT_EQ(boxes.lastPreselected, Answer::No);
+    EXPECT_EQ(folder.Read("utils"), "ana\nrui\n");
+    remove("ana", {Answer::Yes});
     EXPECT_EQ(folder.Read("utils"), "rui\n");
     EXPECT_TRUE(Exists("ana.pal"));
     EXPECT_EQ(profiles.ActiveIndex(), 1);
     EXPECT_EQ(profiles.Active().properties.profileName, "rui");
-}
-
-TEST_F(ProfileSet, TheGenericProfileAndTheActiveOneCannotBeRemoved) {
-    profiles.Load();
-    profiles.Open("ana");
-    dialogs.chosenProfile = "generico";
-    profiles.RemoveProfile();
-    dialogs.chosenProfile = "ana";
-    boxes.answers = {Answer::Yes};
-    profiles.RemoveProfile();
-    dialogs.chosenProfile = "rui";
-    boxes.answers = {Answer::No};
-    profiles.RemoveProfile();
-    dialogs.chosenProfile.reset();
-    profiles.RemoveProfile();
-    EXPECT_THAT(
-        boxes.shown,
-        ElementsAre("Não é possível apagar o perfil de utilizador genérico."_w,
-                    "Quer mesmo remover o perfil ana?",
-                    "Este perfil de utilizador encontra-se activo e por isso não pode ser removido."_w,
-                    "Quer mesmo remover o perfil rui?"));
-    EXPECT_EQ(profiles.Count(), 3);
-    EXPECT_EQ(folder.Read("utils"), "ana\nrui\n");
 }
 
 TEST_F(ProfileSet, CopyingOptionsKeepsNameFileAndDictionary) {

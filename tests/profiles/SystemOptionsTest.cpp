@@ -8,17 +8,6 @@ namespace {
 
 using Names = std::vector<Text>;
 
-TEST(SystemOptions, WithoutAFileAreTheDefaultsAndNothingIsWritten) {
-    const TemporaryFolder folder;
-    CSystemOptions options;
-    options.Load(folder.Path() / "configsis");
-    EXPECT_EQ(options.Get(system_option::PERFIL_UTILIZADOR_ARRANQUE), "generico");
-    EXPECT_EQ(options.Get(system_option::PORTA_GPS), "com1");
-    EXPECT_TRUE(options.IsOn(system_option::ALTERACOES_SISTEMA));
-    EXPECT_TRUE(options.Save());
-    EXPECT_FALSE(std::filesystem::exists(folder.Path() / "configsis"));
-}
-
 TEST(SystemOptions, TheServerNameStandsTwiceAndComesBackWithItsMarks) {
     const TemporaryFolder folder;
     CSystemOptions options;
@@ -43,20 +32,22 @@ TEST(SystemOptions, PrioritiesSplitAtAnyRunOfSemicolons) {
     EXPECT_TRUE(options.Format().ends_with("LISTA_PRIORIDADES_ADAPTACAO_CONTEXTO \n"));
 }
 
-TEST(SystemOptions, EvenReadingThePrioritiesMakesTheFileBeWritten) {
+TEST(SystemOptions, AreWrittenOnlyIfChangedAndEvenReadingThePrioritiesIsAChange) {
     const TemporaryFolder folder;
-    folder.Write("configsis", "ADAPTACAO_CONTEXTO 1\nLINHA_DESCONHECIDA 1\n");
     CSystemOptions options;
+    options.Load(folder.Path() / "configsis");
+    EXPECT_EQ(options.Get(system_option::PERFIL_UTILIZADOR_ARRANQUE), "generico");
+    EXPECT_TRUE(options.IsOn(system_option::ALTERACOES_SISTEMA));
+    EXPECT_TRUE(options.Save());
+    EXPECT_FALSE(std::filesystem::exists(folder.Path() / "configsis"));
+
+    folder.Write("configsis", "ADAPTACAO_CONTEXTO 1\nLINHA_DESCONHECIDA 1\n");
     options.Load(folder.Path() / "configsis");
     EXPECT_FALSE(options.IsChanged());
     (void)options.GetPriorities();
     ASSERT_TRUE(options.Save());
     EXPECT_EQ(folder.Read("configsis"), options.Format());
-}
 
-TEST(SystemOptions, ThatCouldNotBeWrittenStayMarkedAsChanged) {
-    const TemporaryFolder folder;
-    CSystemOptions options;
     options.Load(folder.Path() / "no such folder" / "configsis");
     options.Set(system_option::ADAPTACAO_CONTEXTO, 1);
     EXPECT_FALSE(options.Save());
