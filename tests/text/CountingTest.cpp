@@ -10,7 +10,7 @@ TEST(Counting, CapitalsAccentsAndSignsCostTheKeysThatTheyNeedAndWhatHasNoKeyCost
         {"AB", 3},                   // Caps Lock once for a run
         {"Ab", 3},                   // Shift for a lone capital
         {"A, B", 1 + 1 + 1 + 1 + 1}, // the run goes on over what is no letter
-        {"ABc D", 3 + 2 + 1 + 2},    // a run that ended starts anew
+        {"ABa Z", 3 + 2 + 1 + 2},    // a run that ended starts anew
         {"ÇÃO"_w, 1 + 1 + 2 + 1},
         {" é ê ? €\n"_w, 1 + 2 + 1 + 3 + 1 + 2 + 1 + 2 + 1},
         {"ä\t\r–ÿ\0"_w, 0},
