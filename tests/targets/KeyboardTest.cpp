@@ -27,18 +27,15 @@ TEST_F(KeyboardTest, AKnownNameOrCodeIsNeverGivenAwayAndCodesOutsideTheTableHave
     EXPECT_EQ(keyboard.keySet.GetName(vk::Enter), "Enter");
     EXPECT_FALSE(keyboard.keySet.GetCode("Return"));
     EXPECT_TRUE(keyboard.keySet.IsReserved(vk::Enter));
+    EXPECT_THAT(keyboard.keySet.GetFreeKeyNames(), Contains("Pgup"));
+    keyboard.keySet.SetReserved(vk::PageUp, true);
+    EXPECT_THAT(keyboard.keySet.GetFreeKeyNames(), Not(Contains("Pgup"))) << "it has a special role";
 
     keyboard.keySet.AddKey("Longe", 256, true, true);
     keyboard.keySet.SetReserved(-1, true);
     EXPECT_EQ(keyboard.keySet.GetCode("Longe"), 256);
     EXPECT_FALSE(keyboard.keySet.IsReserved(256) || keyboard.keySet.IsReserved(-1));
     EXPECT_FALSE(keyboard.keySet.IsCombinableName("Longe"));
-}
-
-TEST_F(KeyboardTest, AKeyInASpecialRoleIsNotOfferedForAnother) {
-    EXPECT_THAT(keyboard.keySet.GetFreeKeyNames(), Contains("Pgup"));
-    keyboard.keySet.SetReserved(vk::PageUp, true);
-    EXPECT_THAT(keyboard.keySet.GetFreeKeyNames(), Not(Contains("Pgup")));
 }
 
 TEST_F(KeyboardTest, ALineBreakIsTypedAsOneEnterAndAKeyNameTappedAndAnyOtherTextTyped) {
