@@ -26,10 +26,10 @@ inline constexpr int SimulateWords = 32940, SimulateText = 32948, SimulatePictog
 
 struct MenuCommand {
     int number;
-    TextView prompt;   ///< in the status line while the entry is marked
     bool guarded;      ///< refused while changes of the system are locked
     bool notInEditing; ///< refused while the on-screen keyboard is edited
     bool available;    ///< false: its work does not exist yet
+    TextView prompt;   ///< in the status line while the entry is marked
 };
 
 /// Null for a number that is no entry.
