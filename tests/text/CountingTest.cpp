@@ -22,6 +22,28 @@ TEST(Counting, CapitalsAccentsAndSignsCostTheKeysThatTheyNeedAndWhatHasNoKeyCost
     EXPECT_EQ(CountKeyPresses("ä\t\r–ÿ"_w), 0);
 }
 
+TEST(Counting, EachOfThe256CharactersAloneCostsItsKeysAndShift) {
+    // By code, sixteen a line.
+    constexpr TextView keys = "0000000000100000"
+                              "0000000000000000"
+                              "1222222122211112" // blank to /
+                              "1111111111220202" // 0 to ?
+                              "2222222222222222" // @ to O
+                              "2222222222221232" // P to _
+                              "3111111111111111" // ` to o
+                              "1111111111122220" // p to ~
+                              "2000000000000000" // the euro
+                              "0000000000000000"
+                              "0002000200210000"
+                              "0000200000120000"
+                              "4343000243404340"  // À to Ï
+                              "0043430004340000"  // Ð to ß
+                              "3232000132303230"  // à to ï
+                              "0032320003230000"; // ð to ÿ
+    for (std::size_t code = 0; code < keys.size(); ++code)
+        EXPECT_EQ(CountQwertyKeys(Text(1, static_cast<char>(code))), keys[code] - '0') << code;
+}
+
 TEST(Counting, TheCountsOfALongTextHaveNoLimitAndARunOfTerminatorsIsOneSentence) {
     Text text;
     for (int i = 0; i < 400; ++i)
