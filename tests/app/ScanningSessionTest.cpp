@@ -97,9 +97,10 @@ TEST_F(ScanningSessionTest, StepsAreHeardAndLogged) {
     std::vector<Text> types;
     for (const auto& event : services.log.written)
         types.push_back(event.event + " " + event.type + " " + event.element);
-    const auto expected = Texts("SWITCH1_DOWN START_SCANNING_LINES ", "AUTO_TIMER SCANNING_ADVANCE_LINES ",
-                                "SWITCH1_DOWN LINE_SELECTION 1", "SWITCH1_DOWN GROUP_SELECTION 1.0",
-                                "SWITCH1_DOWN START_SCANNING_KEYS ", "SWITCH1_DOWN TEXT_KEY_SELECTION_o 1.0.0");
+    const auto expected =
+        Texts("SWITCH1_DOWN START_SCANNING_LINES ", "AUTO_TIMER SCANNING_ADVANCE_LINES ",
+              "SWITCH1_DOWN LINE_SELECTION 1", "SWITCH1_DOWN GROUP_SELECTION 1.0",
+              "SWITCH1_DOWN START_SCANNING_KEYS ", "SWITCH1_DOWN TEXT_KEY_SELECTION_o 1.0.0");
     auto next = expected.begin();
     for (const auto& type : types)
         if (next != expected.end() && type == *next)
