@@ -1,5 +1,6 @@
 #include "dialogs/CSpeechSynthesizerExceptionsDlg.h"
 
+#include "dialogs/Controls.h"
 #include "dialogs/SelectedRow.h"
 #include "platform/qt/QtConversion.h"
 #include "text/CaseFolding.h"
@@ -7,8 +8,6 @@
 
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QPushButton>
 #include <QRegularExpressionValidator>
 #include <QShortcut>
 
@@ -22,19 +21,6 @@ constexpr int kListWidth = 45;
 constexpr int kListHeight = 10;
 /// So that both texts and what stands between them are read back as one line.
 constexpr int kTextLimit = static_cast<int>(SpeechExceptions::kLineLimit - 1) / 2;
-
-QPushButton* CreateButton(const QString& text, const char* objectName) {
-    auto* button = new QPushButton(text);
-    button->setObjectName(objectName);
-    button->setAutoDefault(false);
-    return button;
-}
-
-QLabel* CreateLabel(const QString& text, QWidget* buddy) {
-    auto* label = new QLabel(text);
-    label->setBuddy(buddy);
-    return label;
-}
 
 /// The file could not give back a text with its separator.
 void Limit(QLineEdit& field) {

@@ -1,12 +1,11 @@
 #include "dialogs/EntryListDlg.h"
 
+#include "dialogs/Controls.h"
 #include "dialogs/SelectedRow.h"
 #include "platform/qt/QtConversion.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QPushButton>
 #include <QShortcut>
 
 namespace ondrilo {
@@ -42,19 +41,6 @@ const char* ObjectNameOf(EntryListKind kind) {
 
 QString RowText(const ListedEntry& entry) {
     return ToQString(entry.name + " : " + entry.value);
-}
-
-QPushButton* CreateButton(const QString& text, const char* objectName) {
-    auto* button = new QPushButton(text);
-    button->setObjectName(objectName);
-    button->setAutoDefault(false);
-    return button;
-}
-
-QLabel* CreateLabel(const QString& text, QWidget* buddy) {
-    auto* label = new QLabel(text);
-    label->setBuddy(buddy);
-    return label;
 }
 
 } // namespace
