@@ -19,7 +19,6 @@ class CSpeechSynthesizer : public SpeechService {
     /// once.
     bool SelectVoice(TextView name, const SpeechManner& manner) override;
     bool Speak(TextView text) override;
-    [[nodiscard]] std::vector<Text> GetVoices() override { return engine.Voices(); }
     void Release() override;
 
     /// In the order in which they are listed.

@@ -16,8 +16,6 @@ class SpeechService {
     virtual bool SelectVoice(TextView /*name*/, const SpeechManner& /*manner*/) { return false; }
     /// Starts to speak and returns at once; what is being spoken is cut off. False if nothing was passed on.
     virtual bool Speak(TextView) { return false; }
-    /// The descriptions of all voices, as far as they are known yet.
-    [[nodiscard]] virtual std::vector<Text> GetVoices() { return {}; }
     /// Gives the voice back; Speak fails until the next SelectVoice.
     virtual void Release() {}
 };
