@@ -30,6 +30,12 @@ class Desktop {
     [[nodiscard]] virtual bool IsOurs(WindowId window) const = 0;
     /// True if both windows belong to the same running program; a window that is gone belongs to none.
     [[nodiscard]] virtual bool IsSameProgram(WindowId first, WindowId second) const = 0;
+    /// The process that the window belongs to; 0 if that cannot be told.
+    [[nodiscard]] virtual std::uint32_t ProcessOf(WindowId window) const = 0;
+    /// The window's content on the screen, without decorations.
+    [[nodiscard]] virtual Rectangle ClientArea(WindowId window) const = 0;
+    /// True if the point of the screen shows the window, and no other one over it.
+    [[nodiscard]] virtual bool IsUnder(WindowId window, Point point) const = 0;
     /// Calls `changed` on the user-interface thread after the focus of any program moved.
     [[nodiscard]] virtual RegistrationHandle OnFocusChange(std::function<void()> changed) = 0;
     [[nodiscard]] virtual Point PointerPosition() const = 0;

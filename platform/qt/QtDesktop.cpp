@@ -1,5 +1,6 @@
 #include "platform/qt/QtDesktop.h"
 
+#include "platform/qt/NativePixels.h"
 #include "platform/qt/QtConversion.h"
 
 #include <QCursor>
@@ -21,6 +22,14 @@ Text QtDesktop::TitleOf(WindowId window, std::size_t limit) const {
 
 bool QtDesktop::IsSameProgram(WindowId first, WindowId second) const {
     return windows.IsSameProgram(first, second);
+}
+
+Rectangle QtDesktop::ClientArea(WindowId window) const {
+    return FromNative(windows.ClientArea(window));
+}
+
+bool QtDesktop::IsUnder(WindowId window, Point point) const {
+    return windows.IsUnder(window, ToNative(point));
 }
 
 RegistrationHandle QtDesktop::OnFocusChange(std::function<void()> changed) {

@@ -19,6 +19,11 @@ class QtDesktop : public Desktop {
     [[nodiscard]] Text TitleOf(WindowId window, std::size_t limit = 1000) const override;
     [[nodiscard]] bool IsOurs(WindowId window) const override { return windows.IsOurs(window); }
     [[nodiscard]] bool IsSameProgram(WindowId first, WindowId second) const override;
+    [[nodiscard]] std::uint32_t ProcessOf(WindowId window) const override {
+        return windows.ProcessOf(window);
+    }
+    [[nodiscard]] Rectangle ClientArea(WindowId window) const override;
+    [[nodiscard]] bool IsUnder(WindowId window, Point point) const override;
     [[nodiscard]] RegistrationHandle OnFocusChange(std::function<void()> changed) override;
     [[nodiscard]] Point PointerPosition() const override;
     void MovePointer(Point position) override;

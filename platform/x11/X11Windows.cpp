@@ -44,6 +44,8 @@ class X11Windows::Implementation {
     [[nodiscard]] std::string Text(xcb_window_t window, xcb_atom_t property, xcb_atom_t& type) const;
     [[nodiscard]] bool Exists(xcb_window_t window) const;
     [[nodiscard]] std::uint32_t ProcessOfWindow(xcb_window_t window) const;
+    [[nodiscard]] Rectangle ClientArea(xcb_window_t window) const;
+    [[nodiscard]] bool IsUnder(xcb_window_t window, Point point) const;
     void ProcessEvents();
 
     // Events have a connection to themselves: an answer awaited on it would move them to xcb's own queue, and
@@ -127,6 +129,34 @@ std::uint32_t X11Windows::Implementation::ProcessOf(std::uint32_t resource) cons
     return 0;
 }
 
+Rectangle X11Windows::Implementation::ClientArea(xcb_window_t window) const {
+    if (!IsAvailable() || window == XCB_WINDOW_NONE)
+        return {};
+    const auto sizeCookie = xcb_get_geometry(queries.Get(), window);
+    const auto cornerCookie = xcb_translate_coordinates(queries.Get(), window, queries.Root(), 0, 0);
+    const auto size = Owned(xcb_get_geometry_reply(queries.Get(), sizeCookie, nullptr));
+    const auto corner = Owned(xcb_translate_coordinates_reply(queries.Get(), cornerCookie, nullptr));
+    if (!size || !corner)
+        return {};
+    return {corner->dst_x, corner->dst_y, size->width, size->height};
+}
+
+bool X11Windows::Implementation::IsUnder(xcb_window_t window, Point point) const {
+    if (!IsAvailable() || window == XCB_WINDOW_NONE)
+        return false;
+    const auto x = static_cast<std::int16_t>(point.x);
+    const auto y = static_cast<std::int16_t>(point.y);
+    // From the screen down, window by window, to the one that shows.
+    for (auto shown = queries.Root(); shown != XCB_WINDOW_NONE;) {
+        const auto cookie = xcb_translate_coordinates(queries.Get(), queries.Root(), shown, x, y);
+        const auto reply = Owned(xcb_translate_coordinates_reply(queries.Get(), cookie, nullptr));
+        shown = reply ? reply->child : xcb_window_t{XCB_WINDOW_NONE};
+        if (shown == window)
+            return true;
+    }
+    return false;
+}
+
 void X11Windows::Implementation::WatchForItsEnd(xcb_window_t window) {
     const std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
     xcb_change_window_attributes(events.Get(), window, XCB_CW_EVENT_MASK, &mask);
@@ -192,6 +222,18 @@ bool X11Windows::IsOurs(WindowId window) const {
 bool X11Windows::IsSameProgram(WindowId first, WindowId second) const {
     const auto process = implementation->ProcessOfWindow(WindowOf(first));
     return process != 0 && process == implementation->ProcessOfWindow(WindowOf(second));
+}
+
+std::uint32_t X11Windows::ProcessOf(WindowId window) const {
+    return implementation->ProcessOfWindow(WindowOf(window));
+}
+
+Rectangle X11Windows::ClientArea(WindowId window) const {
+    return implementation->ClientArea(WindowOf(window));
+}
+
+bool X11Windows::IsUnder(WindowId window, Point point) const {
+    return implementation->IsUnder(WindowOf(window), point);
 }
 
 RegistrationHandle X11Windows::OnFocusChange(std::function<void()> changed) {

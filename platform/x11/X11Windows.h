@@ -20,6 +20,11 @@ class X11Windows {
     [[nodiscard]] bool IsOurs(WindowId window) const;
     [[nodiscard]] bool IsSameProgram(WindowId first, WindowId second) const;
 
+    [[nodiscard]] std::uint32_t ProcessOf(WindowId window) const;
+    /// These two in the pixels of the server.
+    [[nodiscard]] Rectangle ClientArea(WindowId window) const;
+    [[nodiscard]] bool IsUnder(WindowId window, Point point) const;
+
     /// `changed` is called from ProcessEvents, once for each move of the focus to another window.
     [[nodiscard]] RegistrationHandle OnFocusChange(std::function<void()> changed);
     /// Readable when ProcessEvents has work; -1 without a server.

@@ -22,6 +22,12 @@ class FakeDesktop : public Desktop {
         const auto other = programs.find(second);
         return one != programs.end() && other != programs.end() && one->second == other->second;
     }
+    [[nodiscard]] std::uint32_t ProcessOf(WindowId window) const override {
+        const auto program = programs.find(window);
+        return program == programs.end() ? 0 : static_cast<std::uint32_t>(program->second);
+    }
+    [[nodiscard]] Rectangle ClientArea(WindowId) const override { return targetArea; }
+    [[nodiscard]] bool IsUnder(WindowId, Point point) const override { return targetArea.Contains(point); }
     [[nodiscard]] RegistrationHandle OnFocusChange(std::function<void()> changed) override {
         listeners[++lastListener] = std::move(changed);
         return std::make_unique<Handle>(*this, lastListener);
@@ -46,6 +52,7 @@ class FakeDesktop : public Desktop {
     std::map<WindowId, int> programs; ///< process number of each window
     Point pointer;
     Rectangle screen{0, 0, 1920, 1080};
+    Rectangle targetArea; ///< of every window
 
   private:
     struct Handle : Registration {
