@@ -7,8 +7,8 @@ set(floors
     "prediction=4" "keyboards=4" "context=4"
     "profiles/store=5" "pictograms=5" "cooperation=5" "simulators=5"
     "app=6"
-    "platform/qt=7" "platform/x11=7" "platform/linux=7" "targets/ui=7" "keyboards/ui=7" "app/ui=7" "dialogs=7"
-    "dialogs/options=7")
+    "hook=7" "platform/qt=7" "platform/x11=7" "platform/linux=7" "targets/ui=7" "keyboards/ui=7" "app/ui=7"
+    "dialogs=7" "dialogs/options=7")
 
 # The floor of the folder of `file` (relative to ROOT); 8 where it is in no floor.
 function(floor_of file result)
