@@ -45,17 +45,20 @@ class X11KeyOutput::Implementation {
     bool LendNext();
 
     X11Connection connection;
+    Announce announce = [](Keycode, bool, std::int32_t) {
+    };
 
   private:
     void Listen();
     void ReadKeymap();
     void SkipEvents();
     void Send(std::uint8_t type, Keycode keycode);
+    void SendSilently(std::uint8_t type, Keycode keycode);
     void Press(Keycode keycode);
     void Release(Keycode keycode);
     [[nodiscard]] unsigned HeldModifiers() const;
     std::vector<Keycode> PressModifiers(unsigned wanted);
-    void PressStroke(const KeyStroke& stroke);
+    void PressStroke(const KeyStroke& stroke, std::optional<char> meaning = std::nullopt);
     void LockNumLock(bool locked);
     void LiftPersonsModifiers(const LockState& state);
     void PutBackPersonsModifiers();
@@ -157,6 +160,11 @@ void X11KeyOutput::Implementation::Send(std::uint8_t type, Keycode keycode) {
     xcb_test_fake_input(connection.Get(), type, keycode, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
 }
 
+void X11KeyOutput::Implementation::SendSilently(std::uint8_t type, Keycode keycode) {
+    announce(keycode, type == XCB_KEY_PRESS, kSilent);
+    Send(type, keycode);
+}
+
 void X11KeyOutput::Implementation::Press(Keycode keycode) {
     guardian.Pressed(keycode);
     held.push_back(keycode);
@@ -195,11 +203,13 @@ std::vector<Keycode> X11KeyOutput::Implementation::PressModifiers(unsigned wante
 }
 
 /// Presses the key with its modifiers, which are released at once; the key stays down.
-void X11KeyOutput::Implementation::PressStroke(const KeyStroke& stroke) {
+void X11KeyOutput::Implementation::PressStroke(const KeyStroke& stroke, std::optional<char> meaning) {
     const bool needsNumLock = (stroke.modifiers & map->NumLockBit()) != 0;
     const auto pressed = PressModifiers(stroke.modifiers & ~map->NumLockBit());
     if (needsNumLock)
         LockNumLock(true);
+    if (meaning)
+        announce(stroke.keycode, true, static_cast<unsigned char>(*meaning));
     Press(stroke.keycode);
     if (needsNumLock)
         LockNumLock(false);
@@ -222,7 +232,7 @@ void X11KeyOutput::Implementation::LiftPersonsModifiers(const LockState& state) 
         if (!down[keycode] || !map->IsModifier(key) || std::ranges::count(held, key) > 0)
             continue;
         lifted.push_back(key);
-        Send(XCB_KEY_RELEASE, key);
+        SendSilently(XCB_KEY_RELEASE, key);
     }
 }
 
@@ -232,12 +242,12 @@ void X11KeyOutput::Implementation::PutBackPersonsModifiers() {
     Keycodes down = person.Down();
     for (const Keycode keycode : lifted)
         if (down[keycode])
-            Send(XCB_KEY_PRESS, keycode);
+            SendSilently(XCB_KEY_PRESS, keycode);
     // One that the person let go between the question and our press would stay down for ever.
     down = person.Down();
     for (const Keycode keycode : lifted)
         if (!down[keycode])
-            Send(XCB_KEY_RELEASE, keycode);
+            SendSilently(XCB_KEY_RELEASE, keycode);
     connection.Flush();
     lifted.clear();
 }
@@ -255,7 +265,7 @@ void X11KeyOutput::Implementation::Type(char c) {
     if (!stroke)
         return;
     LiftPersonsModifiers(state);
-    PressStroke(*stroke);
+    PressStroke(*stroke, c);
     Release(stroke->keycode);
     if (!HoldsWritingKey())
         PutBackPersonsModifiers();
@@ -308,6 +318,10 @@ std::optional<LayoutKey> X11KeyOutput::KeyOf(char c) const {
     if (!IsAvailable())
         return std::nullopt;
     return implementation->Map(implementation->State().layout).KeyOf(c);
+}
+
+void X11KeyOutput::OnAnnounce(Announce announce) {
+    implementation->announce = std::move(announce);
 }
 
 void X11KeyOutput::TypeCharacter(char c) {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "platform/Keyboard.h"
+#include "platform/x11/KeyboardMap.h"
 
+#include <functional>
 #include <memory>
 
 namespace ondrilo {
@@ -33,6 +35,16 @@ class X11KeyOutput : public KeyOutput {
     [[nodiscard]] bool IsCapsLockOn() const override;
     /// False once all are lent; from then on a change of the keyboard has them lent anew at once.
     bool LendNext();
+
+    /// A modifier of the person's that we lift or put back.
+    static constexpr std::int32_t kSilent = -1;
+    /// Told just before each press or release that stands for something else than its key. `meaning` is the
+    /// Windows-1252 character that was asked for, of which Caps Lock and a held Shift may make another one,
+    /// or kSilent. Everything told reaches the server's keyboard. Not told: a release of a key that only the
+    /// device through which programs type believes down; among the raw events it shows, to programs it does
+    /// not.
+    using Announce = std::function<void(Keycode keycode, bool isPress, std::int32_t meaning)>;
+    void OnAnnounce(Announce announce);
     /// The name of a virtual key for the log: that of a special key, or what the key writes on the layout.
     [[nodiscard]] Text KeyName(int code) const override;
 
