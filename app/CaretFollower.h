@@ -6,7 +6,8 @@
 
 namespace ondrilo {
 
-/// Keeps the main window away from the caret of the program being written in, or beside it.
+/// Keeps the main window away from the caret of the program being written in, or beside it: whole, on the
+/// screen of the caret.
 class CaretFollower {
   public:
     CaretFollower(const Environment& environment, const CUserProfileSet& profiles,
@@ -19,8 +20,11 @@ class CaretFollower {
 
   private:
     [[nodiscard]] Point Caret() const;
+    /// True if the keyboard stands at the caret's right rather than above it.
+    [[nodiscard]] bool GoesBeside() const;
     /// Pixels to keep free at the left and the top for the animated character.
     [[nodiscard]] Size AgentRoom() const;
+    void MoveTo(Point corner);
 
     FrameWindow& frame;
     const Desktop& desktop;

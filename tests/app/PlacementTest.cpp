@@ -106,6 +106,39 @@ TEST_F(RunningSystem, TheWindowKeepsAwayFromTheCaretOrFollowsIt) {
     EXPECT_EQ(frame.position, (Point{1, 2}));
 }
 
+TEST_F(RunningSystem, AWindowThatFleesOrFollowsStaysWholeOnTheScreenOfTheCaret) {
+    desktop.screens.push_back({1920, -200, 1280, 1024});
+    StartWriting("PERSEGUIR_CURSOR_TEXTO 1\n");
+    CaretFollower follower(Surroundings(), view->Profiles(), view->Keyboard(), view->TextTargets());
+    frame.client = {600, 200}; // 616 by 248 with its decorations
+    const auto placeAt = [&](Point caret) {
+        windows.editor->caret = caret;
+        follower.FollowCaret();
+        return frame.position;
+    };
+    EXPECT_EQ(placeAt({1930, 300}), (Point{1920, 42})) << "above, at the edge of the second screen";
+    EXPECT_EQ(placeAt({3190, -150}), (Point{2584, -110})) << "no room above";
+    follower.MoveWindowAwayFromCaret();
+    EXPECT_EQ(frame.position, (Point{1920, 576}));
+    const int moves = frame.moves;
+    follower.MoveWindowAwayFromCaret();
+    EXPECT_EQ(frame.moves, moves) << "it stands there already";
+}
+
+TEST_F(RunningSystem, AColumnOfKeysGoesToTheOtherSideOfACaretAtTheEdge) {
+    folder.Write("Casa.tec", "LINHA L\nGRUPO G\nTECLA TECLA_NORMAL o o o\n"
+                             "LINHA M\nGRUPO G\nTECLA TECLA_NORMAL l l l\n");
+    StartWriting();
+    CaretFollower follower(Surroundings(), view->Profiles(), view->Keyboard(), view->TextTargets());
+    frame.client = {600, 200};
+    windows.editor->caret = {300, 900};
+    follower.FollowCaret();
+    EXPECT_EQ(frame.position, (Point{400, 1080 - 248})) << "no room below";
+    windows.editor->caret.x = 1500;
+    follower.FollowCaret();
+    EXPECT_EQ(frame.position.x, 1500 - 100 - 616);
+}
+
 TEST_F(RunningSystem, AWindowWithoutAKeyboardStaysInSight) {
     SetOptions("NOME_TECLADO não;;;há\n"_w);
     Start();

@@ -4,6 +4,7 @@
 
 #include <map>
 #include <set>
+#include <vector>
 
 namespace ondrilo {
 
@@ -34,7 +35,12 @@ class FakeDesktop : public Desktop {
     }
     [[nodiscard]] Point PointerPosition() const override { return pointer; }
     void MovePointer(Point position) override { pointer = position; }
-    [[nodiscard]] Rectangle ScreenArea(Point) const override { return screen; }
+    [[nodiscard]] Rectangle ScreenArea(Point near) const override {
+        for (const auto& area : screens)
+            if (area.Contains(near))
+                return area;
+        return screens.front();
+    }
 
     /// The person goes to another window.
     void MoveFocus(WindowId window) {
@@ -51,8 +57,8 @@ class FakeDesktop : public Desktop {
     std::set<WindowId> ours;
     std::map<WindowId, int> programs; ///< process number of each window
     Point pointer;
-    Rectangle screen{0, 0, 1920, 1080};
-    Rectangle targetArea; ///< of every window
+    std::vector<Rectangle> screens{{0, 0, 1920, 1080}}; ///< the first one is the primary one
+    Rectangle targetArea;                               ///< of every window
 
   private:
     struct Handle : Registration {

@@ -25,7 +25,10 @@ class FakeFrameWindow : public FrameWindow {
     [[nodiscard]] Rectangle Frame() const override {
         return {position.x, position.y, client.width + 16, client.height + 48};
     }
-    void MoveTo(Point newPosition) override { position = newPosition; }
+    void MoveTo(Point newPosition) override {
+        position = newPosition;
+        ++moves;
+    }
     [[nodiscard]] Point ViewOrigin() const override { return {position.x + 8, position.y + 40}; }
     [[nodiscard]] Size ClientSize() const override { return client; }
     void FitClient(Size size) override { client = size; }
@@ -46,6 +49,7 @@ class FakeFrameWindow : public FrameWindow {
     Text title;
     WindowState state = WindowState::Normal;
     Point position{500, 500};
+    int moves = 0;
     Size client{800, 600};
     bool topMost = false;
     bool acceptsFocus = false;
