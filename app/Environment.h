@@ -2,6 +2,7 @@
 
 #include "app/FrameWindow.h"
 #include "app/SessionWindows.h"
+#include "platform/AccessibleText.h"
 #include "platform/Clipboard.h"
 #include "platform/Clock.h"
 #include "platform/DataFolder.h"
@@ -13,6 +14,7 @@
 #include "platform/Programs.h"
 #include "platform/Sound.h"
 #include "platform/SpeechEngine.h"
+#include "platform/TargetHook.h"
 #include "profiles/OptionDialogs.h"
 
 namespace ondrilo {
@@ -25,6 +27,8 @@ struct Environment {
     TimerService& timers;
     Desktop& desktop;
     KeyOutput& keys;
+    TargetHook& targetHook;
+    AccessibleText& accessibleText;
     MessageBoxes& boxes;
     Dialogs& dialogs;
     OptionDialogs& optionDialogs;

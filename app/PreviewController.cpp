@@ -7,7 +7,7 @@ PreviewController::PreviewController(SessionWindows& windows, const Desktop& des
 }
 
 void PreviewController::ShowPreview(TextView text) {
-    if (!previewWindow)
+    if (!previewWindow || targets.IsPassword())
         return;
     previewWindow->SetText(text);
     const auto caret = targets.Current() ? targets.Current()->GetCaretPosition() : Point{};

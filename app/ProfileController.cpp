@@ -4,10 +4,10 @@ namespace ondrilo {
 
 ProfileController::ProfileController(const Environment& environment, CUserProfileSet& profiles,
                                      SessionController& session, LoggingController& logging,
-                                     PredictionCycle& cycle, const CKeySet& keySet, EventWriter& events)
+                                     PredictionCycle& cycle, EventWriter& events)
     : dialogs(environment.dialogs), optionDialogs(environment.optionDialogs),
       speechEngine(environment.speechEngine), profiles(profiles), session(session), logging(logging),
-      cycle(cycle), keySet(keySet), events(events) {
+      cycle(cycle), events(events) {
 }
 
 void ProfileController::CreateProfile() {

@@ -8,8 +8,7 @@ namespace ondrilo {
 class ProfileController : private ProfileOptionSources {
   public:
     ProfileController(const Environment& environment, CUserProfileSet& profiles, SessionController& session,
-                      LoggingController& logging, PredictionCycle& cycle, const CKeySet& keySet,
-                      EventWriter& events);
+                      LoggingController& logging, PredictionCycle& cycle, EventWriter& events);
 
     void CreateProfile();
     void OpenProfile();
@@ -20,7 +19,7 @@ class ProfileController : private ProfileOptionSources {
     void RemoveLogs();
 
   private:
-    [[nodiscard]] std::vector<Text> KeyNames() const override { return keySet.GetFreeKeyNames(); }
+    [[nodiscard]] std::vector<Text> KeyNames() const override { return StandardKeys().GetFreeKeyNames(); }
     [[nodiscard]] std::vector<Text> KeyboardNames() const override;
     [[nodiscard]] SpeechEngine& Speech() const override { return speechEngine; }
     [[nodiscard]] const DataFolder& Folder() const override { return profiles.Folder(); }
@@ -32,7 +31,6 @@ class ProfileController : private ProfileOptionSources {
     SessionController& session;
     LoggingController& logging;
     PredictionCycle& cycle;
-    const CKeySet& keySet;
     EventWriter& events;
 };
 

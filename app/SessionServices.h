@@ -90,15 +90,6 @@ class PictogramWriter {
     }
 };
 
-/// Targets in other programs' windows.
-class ExternalTargets {
-  public:
-    virtual ~ExternalTargets() = default;
-    enum class Kind { Generic, MicrosoftWord };
-    /// A target for the window, ready for use; null if the window cannot be written to.
-    virtual std::unique_ptr<CWordProcessor> Create(Kind, WindowId) { return nullptr; }
-};
-
 struct SessionServices {
     EventLog& log;
     MetricsSink& metrics;
@@ -110,7 +101,6 @@ struct SessionServices {
     ContextAdapter& context;
     CooperativeSession& cooperation;
     UserRecord& userRecord;
-    ExternalTargets& externalTargets;
     PictogramWriter& pictograms;
 };
 
@@ -126,12 +116,11 @@ struct NullServices {
     ContextAdapter context;
     CooperativeSession cooperation;
     UserRecord userRecord;
-    ExternalTargets externalTargets;
     PictogramWriter pictograms;
 
     [[nodiscard]] SessionServices All() {
-        return {log,       metrics, speech,      cueSpeech,  agent,           gps,
-                bluetooth, context, cooperation, userRecord, externalTargets, pictograms};
+        return {log,       metrics, speech,      cueSpeech,  agent,     gps,
+                bluetooth, context, cooperation, userRecord, pictograms};
     }
 };
 

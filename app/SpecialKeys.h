@@ -5,6 +5,7 @@
 #include "targets/CKeySet.h"
 
 #include <optional>
+#include <vector>
 
 namespace ondrilo {
 
@@ -12,7 +13,7 @@ namespace ondrilo {
 /// report these keys and do not process them.
 class SpecialKeys {
   public:
-    SpecialKeys(const CUserProfileSet& profiles, const CKeySet& keySet, const Targets& targets);
+    SpecialKeys(const CUserProfileSet& profiles, CKeySet& keySet, const Targets& targets);
 
     /// Takes the codes from the profile and blocks them in the target in use, in place of the former ones.
     /// Each new target needs it, because each keeps its own list.
@@ -35,10 +36,12 @@ class SpecialKeys {
   private:
     void Unblock();
     void Map(int& code, TextOption name);
+    void Block(int first, int last);
 
     const CUserProfileSet& profiles;
-    const CKeySet& keySet;
+    CKeySet& keySet;
     const Targets& targets;
+    std::vector<int> marked; ///< as reserved, because they have a role now
 };
 
 } // namespace ondrilo

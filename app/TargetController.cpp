@@ -1,5 +1,7 @@
 #include "app/TargetController.h"
 
+#include "targets/CGenericWordProcessor.h"
+
 namespace ondrilo {
 namespace {
 
@@ -16,12 +18,12 @@ bool IsMicrosoftWord(TextView title) {
 TargetController::TargetController(const Environment& environment, const CUserProfileSet& profiles,
                                    Targets& targets, SpecialKeys& specialKeys, PreviewController& preview,
                                    PredictionCycle& cycle, KeySender& sender, CKeyboard& keyboardSimulator,
-                                   Countdowns& countdowns, EventWriter& events,
-                                   const SessionServices& services)
-    : desktop(environment.desktop), queue(environment.queue), frame(environment.frame),
+                                   Countdowns& countdowns, EventWriter& events)
+    : desktop(environment.desktop), targetHook(environment.targetHook),
+      accessibleText(environment.accessibleText), queue(environment.queue), frame(environment.frame),
       windows(environment.windows), profiles(profiles), targets(targets), specialKeys(specialKeys),
       preview(preview), cycle(cycle), sender(sender), keyboardSimulator(keyboardSimulator),
-      countdowns(countdowns), events(events), services(services) {
+      countdowns(countdowns), events(events) {
 }
 
 void TargetController::CreateInternalEditor() {
@@ -73,21 +75,40 @@ void TargetController::StopFollowing() {
 
 void TargetController::OnFocusChange() {
     const auto foreground = desktop.ForegroundWindow();
+    gaveFocusBack &= foreground == 0;
     if (foreground == lastForegroundWindow || desktop.IsSameProgram(foreground, lastForegroundWindow))
         return;
-    targets.Detach();
+    // Window managers pass through no window at all on the way from one to another.
+    if (foreground != 0)
+        targets.Detach();
     preview.HidePreview();
     countdowns.target.Restart();
 }
 
 void TargetController::AttachForeground() {
-    lastForegroundWindow = desktop.ForegroundWindow();
+    const auto foreground = desktop.ForegroundWindow();
+    if (foreground == 0 && GiveFocusBack())
+        return;
+    if (foreground != 0 && foreground == lastForegroundWindow && targets.Current())
+        return;
+    lastForegroundWindow = foreground;
     AttachTarget();
-    // A program that ends may leave the focus nowhere, and what the person clicks would be lost.
-    if (lastForegroundWindow == 0 && targets.Internal() && frame.State() != WindowState::Minimized) {
+}
+
+/// Nobody has the focus, as after a click on the bare desktop or at the end of a program, and what the person
+/// writes next would be lost. The window that they wrote in gets it back, or else our editor.
+bool TargetController::GiveFocusBack() {
+    if (gaveFocusBack)
+        return false;
+    if (desktop.ProcessOf(lastForegroundWindow) != 0 && !desktop.IsOurs(lastForegroundWindow))
+        desktop.Activate(lastForegroundWindow);
+    else if (targets.Internal() && frame.State() != WindowState::Minimized)
         frame.Activate();
-        countdowns.target.Restart();
-    }
+    else
+        return false;
+    gaveFocusBack = true;
+    countdowns.target.Restart();
+    return true;
 }
 
 void TargetController::OnExposed() {
@@ -98,8 +119,10 @@ void TargetController::OnExposed() {
 void TargetController::AttachTarget() {
     if (desktop.IsOurs(lastForegroundWindow))
         AttachInternal();
-    else
+    else if (lastForegroundWindow != 0)
         AttachExternal(lastForegroundWindow);
+    else
+        targets.Detach();
     // Nobody would tell of the letter that ends it, and the key itself writes nowhere now.
     if (!targets.Current())
         sender.ReleaseShift();
@@ -119,8 +142,15 @@ void TargetController::AttachExternal(WindowId window) {
     const auto title = desktop.TitleOf(window);
     const bool isWord = IsMicrosoftWord(title);
     events.Event("WORD_PROCESSOR_CHANGE", isWord ? TextView("MICROSOFT_WORD_PROCESSOR") : TextView(title));
-    targets.UseExternal(services.externalTargets.Create(
-        isWord ? ExternalTargets::Kind::MicrosoftWord : ExternalTargets::Kind::Generic, window));
+    auto target = std::make_unique<CGenericWordProcessor>(
+        window, keyboardSimulator,
+        CGenericWordProcessor::Surroundings{targetHook, accessibleText, desktop, queue, [this] {
+                                                countdowns.prediction.Restart();
+                                            }});
+    if (target->Create())
+        targets.UseExternal(std::move(target));
+    else
+        targets.Detach();
 }
 
 } // namespace ondrilo

@@ -16,7 +16,7 @@ class TargetController {
     TargetController(const Environment& environment, const CUserProfileSet& profiles, Targets& targets,
                      SpecialKeys& specialKeys, PreviewController& preview, PredictionCycle& cycle,
                      KeySender& sender, CKeyboard& keyboardSimulator, Countdowns& countdowns,
-                     EventWriter& events, const SessionServices& services);
+                     EventWriter& events);
 
     /// The internal editor, if the profile has one.
     void CreateInternalEditor();
@@ -34,11 +34,14 @@ class TargetController {
   private:
     void DressEditor();
     void OnFocusChange();
+    bool GiveFocusBack();
     void AttachTarget();
     void AttachInternal();
     void AttachExternal(WindowId window);
 
     Desktop& desktop;
+    TargetHook& targetHook;
+    AccessibleText& accessibleText;
     MessageQueue& queue;
     FrameWindow& frame;
     SessionWindows& windows;
@@ -51,8 +54,8 @@ class TargetController {
     CKeyboard& keyboardSimulator;
     Countdowns& countdowns;
     EventWriter& events;
-    SessionServices services;
     WindowId lastForegroundWindow = 0;
+    bool gaveFocusBack = false; ///< since somebody last had it
     RegistrationHandle focusHook;
 };
 

@@ -10,12 +10,14 @@
 #include "platform/linux/CanberraSoundPlayer.h"
 #include "platform/linux/FlockInstanceLock.h"
 #include "platform/linux/PosixProgramStarter.h"
+#include "platform/qt/AccessibleBus.h"
 #include "platform/qt/PortugueseTexts.h"
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtDesktop.h"
 #include "platform/qt/QtMessageBoxes.h"
 #include "platform/qt/QtQueuePump.h"
+#include "platform/qt/QtTargetHook.h"
 #include "platform/qt/QtTextMeasure.h"
 #include "platform/qt/QtTimerService.h"
 #include "platform/qt/SpeechDispatcher.h"
@@ -48,6 +50,11 @@ int Run(const std::filesystem::path& dataFolder, QtDesktop& desktop, QtMessageBo
     QtClock clock;
     QtTimerService timers(clock);
     X11KeyOutput keys(X11KeyOutput::Lending::WhenAsked);
+    QtTargetHook targetHook;
+    keys.OnAnnounce([&targetHook](Keycode keycode, bool isPress, std::int32_t meaning) {
+        targetHook.Expect(keycode, isPress, meaning);
+    });
+    AccessibleBus accessibleText;
     CanberraSoundPlayer sounds([] { QApplication::beep(); });
     PosixProgramStarter programs;
     QtTextMeasure textMeasure;
@@ -71,7 +78,6 @@ int Run(const std::filesystem::path& dataFolder, QtDesktop& desktop, QtMessageBo
                                    .context = without.context,
                                    .cooperation = without.cooperation,
                                    .userRecord = without.userRecord,
-                                   .externalTargets = without.externalTargets,
                                    .pictograms = without.pictograms};
     const DialogHost dialogHost{desktop, boxes, services.userRecord};
     QtDialogs dialogs(dialogHost);
@@ -83,6 +89,8 @@ int Run(const std::filesystem::path& dataFolder, QtDesktop& desktop, QtMessageBo
                         .timers = timers,
                         .desktop = desktop,
                         .keys = keys,
+                        .targetHook = targetHook,
+                        .accessibleText = accessibleText,
                         .boxes = boxes,
                         .dialogs = dialogs,
                         .optionDialogs = optionDialogs,
@@ -95,7 +103,11 @@ int Run(const std::filesystem::path& dataFolder, QtDesktop& desktop, QtMessageBo
                         .frame = frame,
                         .windows = windows},
                        services);
-    const QtQueuePump pump(queue, [&view](const MessageEvent& event) { view.Handle(event); });
+    const auto handle = [&view](const MessageEvent& event) {
+        view.Handle(event);
+    };
+    const QtQueuePump pump(queue, handle);
+    targetHook.OnHandled([&queue, handle] { queue.Drain(handle); });
     const QuitSignals quitSignals([&frame] { frame.Close(); });
     view.OnInitialUpdate();
     // Not before: a window manager that is busy with changes of the keyboard would show the window late.

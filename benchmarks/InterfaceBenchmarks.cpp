@@ -149,8 +149,11 @@ class RunningProgram {
     QtPictures pictures{data};
     CMainFrame frame{queue, keys};
     QtSessionWindows windows{{frame, queue, timers, sounds, keys, data, pictures}};
-    CTessivorView view{{data, queue, clock, timers, desktop, keys, boxes, dialogs, optionDialogs, clipboard,
-                        sounds, speechEngine, programs, textMeasure, pictures, frame, windows},
+    TargetHook targetHook;
+    AccessibleText accessibleText;
+    CTessivorView view{{data, queue, clock, timers, desktop, keys, targetHook, accessibleText, boxes, dialogs,
+                        optionDialogs, clipboard, sounds, speechEngine, programs, textMeasure, pictures,
+                        frame, windows},
                        services.All()};
     QtQueuePump pump{queue, [this](const MessageEvent& event) {
                          view.Handle(event);

@@ -15,16 +15,12 @@ bool BeginsWith(TextView text, TextView start) {
     return MakeLower(text).starts_with(MakeLower(start));
 }
 
-Text WithBlank(TextView text) {
-    return Text(text) + ' ';
-}
-
 } // namespace
 
 CInternalWordProcessor::CInternalWordProcessor(std::unique_ptr<TextSurface> box, CKeyboard& sessionKeyboard,
                                                Desktop& theDesktop, MessageQueue& messageQueue)
-    : textBox(std::move(box)), keyboard(sessionKeyboard), desktop(theDesktop), queue(messageQueue),
-      unitEnds(messageQueue) {
+    : ContextWordProcessor(sessionKeyboard), textBox(std::move(box)), desktop(theDesktop),
+      queue(messageQueue), unitEnds(messageQueue) {
 }
 
 CInternalWordProcessor::~CInternalWordProcessor() {
@@ -46,7 +42,7 @@ void CInternalWordProcessor::Destroy() {
     imageTags.clear();
 }
 
-TextContext CInternalWordProcessor::Labelled() const {
+TextContext CInternalWordProcessor::Context() const {
     return SurfaceText(*textBox, imageLabels).Context();
 }
 
@@ -54,53 +50,7 @@ TextContext CInternalWordProcessor::Tagged() const {
     return SurfaceText(*textBox, imageTags).Context();
 }
 
-// --- words and sentences around the insertion point ---
-
-Text CInternalWordProcessor::GetCurrentWordLeft() const {
-    return Labelled().CurrentWordLeft();
-}
-
-Text CInternalWordProcessor::GetCurrentWordRight() const {
-    return Labelled().CurrentWordRight();
-}
-
-Text CInternalWordProcessor::GetCurrentWord() const {
-    const auto context = Labelled();
-    return context.CurrentWordLeft() + context.CurrentWordRight();
-}
-
-Text CInternalWordProcessor::GetPreviousWord() const {
-    return Labelled().PreviousWord(1);
-}
-
-Text CInternalWordProcessor::GetSecondPreviousWord() const {
-    return Labelled().PreviousWord(2);
-}
-
-Text CInternalWordProcessor::GetWrittenSentence() const {
-    return GetCurrentSentenceLeft();
-}
-
-Text CInternalWordProcessor::GetCurrentSentenceLeft() const {
-    return Labelled().CurrentSentenceLeft();
-}
-
-Text CInternalWordProcessor::GetCurrentSentenceRight() const {
-    return Labelled().CurrentSentenceRight();
-}
-
-Text CInternalWordProcessor::GetCurrentSentence() const {
-    const auto context = Labelled();
-    return context.CurrentSentenceLeft() + context.CurrentSentenceRight();
-}
-
-Text CInternalWordProcessor::GetPreviousSentence() const {
-    return Labelled().PreviousSentence(1);
-}
-
-Text CInternalWordProcessor::GetSecondPreviousSentence() const {
-    return Labelled().PreviousSentence(2);
-}
+// --- words and sentences around the insertion point, with tags ---
 
 Text CInternalWordProcessor::GetLabelledSentenceLeft() const {
     return Tagged().LabelledSentenceLeft();
@@ -113,10 +63,6 @@ Text CInternalWordProcessor::GetLabelledSentenceRight() const {
 Text CInternalWordProcessor::GetLabelledSentence() const {
     const auto context = Tagged();
     return context.LabelledSentenceLeft() + context.CurrentSentenceRight();
-}
-
-Text CInternalWordProcessor::GetLabelledSentenceWritten() const {
-    return GetLabelledSentenceLeft();
 }
 
 Text CInternalWordProcessor::GetLabelledPreviousSentence() const {
@@ -153,10 +99,6 @@ bool CInternalWordProcessor::IsInsideWord() const {
 }
 
 // --- writing and deleting ---
-
-Text CInternalWordProcessor::GetRemainder(TextView complete, TextView typed) const {
-    return ondrilo::GetRemainder(complete, typed);
-}
 
 void CInternalWordProcessor::Type(TextView text) {
     textBox->TakeFocus(); // the keys go wherever the focus is
@@ -246,27 +188,6 @@ void CInternalWordProcessor::ClearAll() {
     ClearRange(0, static_cast<int>(textBox->PlainText().size()));
 }
 
-// --- how predictions read under Caps Lock ---
-
-Text CInternalWordProcessor::GetWordDisplayText(TextView word) const {
-    const Text typed = GetCurrentWordLeft();
-    return typed + AdaptWordCase(typed.empty() ? MakeLower(word) : GetRemainder(word, typed));
-}
-
-Text CInternalWordProcessor::AdaptWordCase(TextView word) const {
-    return keyboard.IsCapsLockOn() ? CKeyboard::SwapCase(word) : Text(word);
-}
-
-Text CInternalWordProcessor::GetSentenceDisplayText(TextView sentence) const {
-    const Text left = GetCurrentSentenceLeft();
-    const Text typed = CollapseWhiteSpace(left);
-    return left + AdaptSentenceCase(typed.empty() ? Text(sentence) : GetRemainder(sentence, typed));
-}
-
-Text CInternalWordProcessor::AdaptSentenceCase(TextView sentence) const {
-    return AdaptWordCase(sentence);
-}
-
 // --- pictures ---
 
 std::optional<int> CInternalWordProcessor::InsertImage(const std::filesystem::path& path) {
@@ -345,14 +266,8 @@ bool CInternalWordProcessor::IsPointerOverTarget() const {
 }
 
 void CInternalWordProcessor::MovePointerOutOf(Rectangle rectangle) {
-    const Rectangle area = textBox->ScreenArea();
-    const Point candidates[] = {
-        {area.x, area.y}, {rectangle.x + rectangle.width, area.y}, {area.x, rectangle.y + rectangle.height}};
-    const auto outside = std::find_if(std::begin(candidates), std::end(candidates), [&](Point point) {
-        return area.Contains(point) && !rectangle.Contains(point);
-    });
-    if (outside != std::end(candidates))
-        desktop.MovePointer(*outside);
+    if (const auto point = FirstPointOutside(textBox->ScreenArea(), rectangle))
+        desktop.MovePointer(*point);
 }
 
 void CInternalWordProcessor::SetWidth(int pixels) {

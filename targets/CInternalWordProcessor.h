@@ -2,8 +2,7 @@
 
 #include "platform/MessageQueue.h"
 #include "targets/BlockedKeys.h"
-#include "targets/CKeyboard.h"
-#include "targets/CWordProcessor.h"
+#include "targets/ContextWordProcessor.h"
 #include "targets/SurfaceText.h"
 #include "targets/TextSurface.h"
 #include "targets/UnitEndPosting.h"
@@ -15,7 +14,7 @@ namespace ondrilo {
 
 /// The internal editor: text and pictures in a box of the session's own window. Text is written as simulated
 /// keys, so that the box reports it like what the person types; deletions are made in the box at once.
-class CInternalWordProcessor : public CWordProcessor, private TextSurfaceListener {
+class CInternalWordProcessor : public ContextWordProcessor, private TextSurfaceListener {
   public:
     CInternalWordProcessor(std::unique_ptr<TextSurface> textBox, CKeyboard& keyboard, Desktop& desktop,
                            MessageQueue& queue);
@@ -26,18 +25,6 @@ class CInternalWordProcessor : public CWordProcessor, private TextSurfaceListene
     [[nodiscard]] bool Create() override;
     void Destroy() override;
 
-    [[nodiscard]] Text GetCurrentWordLeft() const override;
-    [[nodiscard]] Text GetCurrentWordRight() const override;
-    [[nodiscard]] Text GetCurrentWord() const override;
-    [[nodiscard]] Text GetPreviousWord() const override;
-    [[nodiscard]] Text GetSecondPreviousWord() const override;
-    [[nodiscard]] Text GetWrittenSentence() const override;
-    [[nodiscard]] Text GetCurrentSentenceLeft() const override;
-    [[nodiscard]] Text GetCurrentSentenceRight() const override;
-    [[nodiscard]] Text GetCurrentSentence() const override;
-    [[nodiscard]] Text GetPreviousSentence() const override;
-    [[nodiscard]] Text GetSecondPreviousSentence() const override;
-    [[nodiscard]] Text GetRemainder(TextView complete, TextView typed) const override;
     void WriteWord(TextView word) override;
     void DeleteCurrentWordLeft() override;
     void WriteSentence(TextView sentence) override;
@@ -50,10 +37,6 @@ class CInternalWordProcessor : public CWordProcessor, private TextSurfaceListene
     [[nodiscard]] Point GetCaretPosition() const override;
     [[nodiscard]] bool IsPointerOverTarget() const override;
     void MovePointerOutOf(Rectangle rectangle) override;
-    [[nodiscard]] Text GetWordDisplayText(TextView word) const override;
-    [[nodiscard]] Text AdaptWordCase(TextView word) const override;
-    [[nodiscard]] Text GetSentenceDisplayText(TextView sentence) const override;
-    [[nodiscard]] Text AdaptSentenceCase(TextView sentence) const override;
     void SetWidth(int pixels) override;
     void SetHeight(int pixels) override;
     [[nodiscard]] int GetWidth() const override;
@@ -73,7 +56,6 @@ class CInternalWordProcessor : public CWordProcessor, private TextSurfaceListene
     [[nodiscard]] Text GetLabelledSentenceLeft() const override;
     [[nodiscard]] Text GetLabelledSentenceRight() const override;
     [[nodiscard]] Text GetLabelledSentence() const override;
-    [[nodiscard]] Text GetLabelledSentenceWritten() const override;
     [[nodiscard]] Text GetLabelledPreviousSentence() const override;
     [[nodiscard]] Text GetLabelledSecondPreviousSentence() const override;
     [[nodiscard]] Text GetLabelledPreviousWord() const override;
@@ -92,7 +74,7 @@ class CInternalWordProcessor : public CWordProcessor, private TextSurfaceListene
     void OnPointerMoved(Point position) override;
 
     /// The text around the insertion point, with the plain labels or the tags in the place of the pictures.
-    [[nodiscard]] TextContext Labelled() const;
+    [[nodiscard]] TextContext Context() const override;
     [[nodiscard]] TextContext Tagged() const;
     [[nodiscard]] std::optional<SurfacePicture> PictureAtCursor() const;
     [[nodiscard]] std::optional<SurfacePicture> PictureBeforeCursor() const;
@@ -104,7 +86,6 @@ class CInternalWordProcessor : public CWordProcessor, private TextSurfaceListene
     void TypeRest(TextView text);
 
     std::unique_ptr<TextSurface> textBox;
-    CKeyboard& keyboard;
     Desktop& desktop;
     MessageQueue& queue;
     UnitEndPosting unitEnds;

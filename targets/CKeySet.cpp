@@ -1,6 +1,27 @@
 #include "targets/CKeySet.h"
 
+#include "platform/Keyboard.h"
+#include "text/CaseFolding.h"
+
 namespace ondrilo {
+namespace {
+
+struct NamedKey {
+    TextView name;
+    int code;
+    bool reserved;
+};
+
+constexpr NamedKey kNamedKeys[] = {
+    {"BkSp", vk::Backspace, true},   {"Enter", vk::Enter, true},       {"Space", vk::Space, true},
+    {"Tab", vk::Tab, false},         {"CapsLock", vk::CapsLock, true}, {"Esquerda", vk::Left, true},
+    {"Direita", vk::Right, true},    {"Cima", vk::Up, true},           {"Baixo", vk::Down, true},
+    {"Alt", vk::Alt, true},          {"Ctrl", vk::Control, true},      {"Shift", vk::Shift, true},
+    {"Home", vk::Home, false},       {"End", vk::End, false},          {"Pgup", vk::PageUp, false},
+    {"Pgdown", vk::PageDown, false}, {"Ins", vk::Insert, false},       {"Del", vk::Delete, false},
+};
+
+} // namespace
 
 void CKeySet::AddKey(TextView name, int code, bool isReserved, bool isCombinable) {
     if (keyCodes.contains(name) || keyNames.contains(code))
@@ -72,6 +93,21 @@ std::vector<Text> CKeySet::GetAllKeyNames() const {
     for (const auto& [code, name] : keyNames)
         names.push_back(name);
     return names;
+}
+
+CKeySet StandardKeys() {
+    CKeySet keySet;
+    for (const auto& [name, code, reserved] : kNamedKeys)
+        keySet.AddKey(name, code, reserved, false);
+    for (int number = 1; number <= 12; ++number)
+        keySet.AddKey("F" + std::to_string(number), vk::F1 + number - 1, number <= 10, false);
+    for (int digit = 0; digit <= 9; ++digit)
+        keySet.AddKey("Num" + std::to_string(digit), vk::Num0 + digit, false, false);
+    for (char digit = '0'; digit <= '9'; ++digit)
+        keySet.AddKey({&digit, 1}, digit, true);
+    for (char letter = 'a'; letter <= 'z'; ++letter)
+        keySet.AddKey({&letter, 1}, MakeUpper(letter), true);
+    return keySet;
 }
 
 } // namespace ondrilo

@@ -45,4 +45,7 @@ class CKeySet {
     std::array<bool, kCodes> combinable{};
 };
 
+/// The keys that the program knows by name.
+[[nodiscard]] CKeySet StandardKeys();
+
 } // namespace ondrilo

@@ -15,21 +15,6 @@ constexpr TextView kDeadKeys = "`´^~`´^`´^`´^~`´^`´^~`´^`´^`´^~`´^"_w;
 constexpr TextView kBases = "AAAAEEEiIIOOOOUUUaaaaeeeiiioooouuu";
 static_assert(kAccented.size() == kDeadKeys.size() && kAccented.size() == kBases.size());
 
-struct NamedKey {
-    TextView name;
-    int code;
-    bool reserved;
-};
-
-constexpr NamedKey kNamedKeys[] = {
-    {"BkSp", vk::Backspace, true},   {"Enter", vk::Enter, true},       {"Space", vk::Space, true},
-    {"Tab", vk::Tab, false},         {"CapsLock", vk::CapsLock, true}, {"Esquerda", vk::Left, true},
-    {"Direita", vk::Right, true},    {"Cima", vk::Up, true},           {"Baixo", vk::Down, true},
-    {"Alt", vk::Alt, true},          {"Ctrl", vk::Control, true},      {"Shift", vk::Shift, true},
-    {"Home", vk::Home, false},       {"End", vk::End, false},          {"Pgup", vk::PageUp, false},
-    {"Pgdown", vk::PageDown, false}, {"Ins", vk::Insert, false},       {"Del", vk::Delete, false},
-};
-
 using Combinations = std::vector<Tokens>;
 
 /// The key names of each combination of a sequence.
@@ -43,21 +28,7 @@ Combinations SplitSequence(TextView sequence) {
 } // namespace
 
 void CKeyboard::Initialize() {
-    keySet.Clear();
-    LoadStandardKeys();
-}
-
-void CKeyboard::LoadStandardKeys() {
-    for (const auto& [name, code, reserved] : kNamedKeys)
-        keySet.AddKey(name, code, reserved, false);
-    for (int number = 1; number <= 12; ++number)
-        keySet.AddKey("F" + std::to_string(number), vk::F1 + number - 1, number <= 10, false);
-    for (int digit = 0; digit <= 9; ++digit)
-        keySet.AddKey("Num" + std::to_string(digit), vk::Num0 + digit, false, false);
-    for (char digit = '0'; digit <= '9'; ++digit)
-        keySet.AddKey({&digit, 1}, digit, true);
-    for (char letter = 'a'; letter <= 'z'; ++letter)
-        keySet.AddKey({&letter, 1}, MakeUpper(letter), true);
+    keySet = StandardKeys();
 }
 
 void CKeyboard::TypeText(TextView text) {

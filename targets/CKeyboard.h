@@ -54,7 +54,6 @@ class CKeyboard {
     CKeySet keySet;
 
   private:
-    void LoadStandardKeys();
     [[nodiscard]] std::optional<int> CodeOf(TextView name) const;
     void Tap(int code);
 

@@ -14,9 +14,9 @@ struct LogTest : RunningSystem {
         SetOptions(Text("REGISTAR_EVENTOS 1\n").append(options));
         const auto all = services.All();
         view = std::make_unique<CTessivorView>(
-            Surroundings(), SessionServices{log, metrics, all.speech, all.cueSpeech, all.agent, all.gps,
-                                            all.bluetooth, all.context, all.cooperation, all.userRecord,
-                                            all.externalTargets, all.pictograms});
+            Surroundings(),
+            SessionServices{log, metrics, all.speech, all.cueSpeech, all.agent, all.gps, all.bluetooth,
+                            all.context, all.cooperation, all.userRecord, all.pictograms});
         view->OnInitialUpdate();
         Tick(6);
         told = Lines().size();

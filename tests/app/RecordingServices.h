@@ -116,10 +116,6 @@ struct RecordingServices {
         void MenuSelected(int command) override { journal.Note("menu " + std::to_string(command)); }
     };
 
-    struct Targets : ExternalTargets {
-        std::unique_ptr<CWordProcessor> Create(Kind, WindowId) override { return std::move(next); }
-        std::unique_ptr<CWordProcessor> next; ///< of the next window; none otherwise
-    };
     struct Pictograms : PictogramWriter {
         void Insert(const COnScreenKeyData& key, TextView standsFor, CWordProcessor&) override {
             inserted.emplace_back(key.label, standsFor);
@@ -128,8 +124,8 @@ struct RecordingServices {
     };
 
     [[nodiscard]] SessionServices All() {
-        return {log,       metrics, speech,      cueSpeech,  agent,           gps,
-                bluetooth, context, cooperation, userRecord, externalTargets, pictograms};
+        return {log,       metrics, speech,      cueSpeech,  agent,     gps,
+                bluetooth, context, cooperation, userRecord, pictograms};
     }
 
     Log log;
@@ -142,7 +138,6 @@ struct RecordingServices {
     Context context;
     Cooperation cooperation;
     Record userRecord;
-    Targets externalTargets;
     Pictograms pictograms;
 };
 

@@ -103,10 +103,15 @@ TEST_F(RunningSystem, TheFocusSettlesBeforeTheTargetChanges) {
     EXPECT_TRUE(view->TextTargets().IsInternal()) << "another window of the same program keeps the target";
 
     Click("Shift");
+    otherProgram.refuses = true;
     desktop.MoveFocus(7);
     Tick(6);
     EXPECT_TRUE(keys.held.empty()) << "everything typed there would be in capitals";
 
+    desktop.MoveFocus(0);
+    Tick(6);
+    EXPECT_EQ(desktop.foreground, 7U) << "a click on the bare desktop would end the writing";
+    desktop.programs.erase(7);
     desktop.MoveFocus(0);
     journal.Take();
     Tick(6);

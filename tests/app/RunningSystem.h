@@ -11,6 +11,7 @@
 #include "tests/support/FakeMeasures.h"
 #include "tests/support/FakeMessageBoxes.h"
 #include "tests/support/FakeOptionDialogs.h"
+#include "tests/support/FakeOtherProgram.h"
 #include "tests/support/FakeSessionWindows.h"
 #include "tests/support/FakeSounds.h"
 #include "tests/support/FakeSpeechEngine.h"
@@ -83,9 +84,9 @@ class RunningSystem : public testing::Test {
     void SetOptions(TextView options) const { folder.Write("generico.cfg", Text(kOptions).append(options)); }
     [[nodiscard]] Environment Surroundings() {
         const DataFolder data(folder.Path());
-        return {data,     queue,       clock,          timers,    desktop, keys,
-                boxes,    dialogs,     optionDialogs,  clipboard, sounds,  speechEngine,
-                programs, textMeasure, pictureMeasure, frame,     windows};
+        return {data,         queue,       clock,          timers,        desktop,   keys,   otherProgram,
+                otherProgram, boxes,       dialogs,        optionDialogs, clipboard, sounds, speechEngine,
+                programs,     textMeasure, pictureMeasure, frame,         windows};
     }
     void Start() {
         view = std::make_unique<CTessivorView>(Surroundings(), services.All());
@@ -97,6 +98,15 @@ class RunningSystem : public testing::Test {
         Start();
         Tick(6);
         journal.Take();
+    }
+    /// The person goes to another program and stays there.
+    void GoToOtherProgram() {
+        otherProgram.settle = [this] {
+            Drain();
+        };
+        keys.surface = &otherProgram.surface;
+        desktop.MoveFocus(7);
+        Tick(6);
     }
     void Drain() {
         queue.Drain([this](const MessageEvent& event) { view->Handle(event); });
@@ -154,6 +164,7 @@ class RunningSystem : public testing::Test {
     FakeTimers timers;
     FakeDesktop desktop;
     FakeKeyOutput keys;
+    FakeOtherProgram otherProgram;
     FakeMessageBoxes boxes;
     FakeDialogs dialogs;
     FakeOptionDialogs optionDialogs;

@@ -212,33 +212,58 @@ TEST_F(RunningSystem, PredictionsLeaveOutWhatTheProfileDoesNotWant) {
     EXPECT_EQ(Key(kSentenceKey).data.label, "");
 }
 
-TEST_F(RunningSystem, WhatIsSecretIsNeitherLearnedNorLoggedNorSpoken) {
-    struct PasswordField : CInternalWordProcessor {
-        using CInternalWordProcessor::CInternalWordProcessor;
-        [[nodiscard]] bool IsPassword() const override { return true; }
-    };
-    StartWriting("REGISTAR_EVENTOS 1\nREGISTA_EVENTOS_CONTROLO 1\nOUVIR_LETRAS 1\nOUVIR_PALAVRAS 1\n"
-                 "OUVIR_DEPOIS_COMPLETAR 1\nTECLA_SINTESE_PALAVRA F11\n");
-    CKeyboard keyboard(keys);
-    auto surface = std::make_unique<FakeTextSurface>();
-    surface->ReplaceSelection("segredo ");
-    services.externalTargets.next =
-        std::make_unique<PasswordField>(std::move(surface), keyboard, desktop, queue);
+TEST_F(RunningSystem, WritesInAnotherProgramAsInTheEditor) {
+    StartWriting("REGISTAR_EVENTOS 1\nTECLA_MANIPULO1 Home\n");
+    desktop.titles[7] = "Carta";
+    GoToOtherProgram();
+    EXPECT_EQ(services.log.written.back().type, "Carta");
+    EXPECT_EQ(otherProgram.followed, 200U);
+    EXPECT_TRUE(otherProgram.specialKeys.contains(vk::F1 + 9));
+    Click("Shift");
+    Click("o");
+    Click("l");
+    EXPECT_EQ(otherProgram.surface.text, "Ol");
+    EXPECT_TRUE(keys.held.empty()) << "the letter that comes back ends Shift";
+    Pause();
+    EXPECT_EQ(Labels(0).front(), "F1: Olá"_w);
+    otherProgram.Press(vk::F1);
+    EXPECT_EQ(otherProgram.surface.text, "Olá "_w);
+    EXPECT_TRUE(view->Profiles().Active().dictionary.GetWord("olá"_w)) << "learned as in the editor";
+    EXPECT_EQ(Written(), "") << "the editor has no part in it";
+
+    otherProgram.Press(vk::Home);
+    EXPECT_EQ(view->TextTargets().Current()->GetPreviousWord(), "Olá"_w) << "a switch moves nothing";
+    otherProgram.Click();
+    otherProgram.Answer("tudo b", 6);
+    Pause();
+    EXPECT_EQ(Labels(0).front(), "F1: bem") << "from the text that really stands there";
+
+    Click(KeyOf("Enter"));
+    const auto target = view->TextTargets().Current();
+    desktop.MoveFocus(0);
     desktop.MoveFocus(7);
     Tick(6);
-    ASSERT_EQ(view->TextTargets().Current()->GetPreviousWord(), "segredo");
+    EXPECT_EQ(view->TextTargets().Current(), target) << "a window manager passed through no window";
+    desktop.MoveFocus(1);
+    EXPECT_EQ(otherProgram.watched, 0U) << "its keys are free again";
+}
+
+TEST_F(RunningSystem, WhatIsSecretIsNeitherLearnedNorLoggedNorSpoken) {
+    StartWriting("REGISTAR_EVENTOS 1\nREGISTA_EVENTOS_CONTROLO 1\nOUVIR_LETRAS 1\nOUVIR_PALAVRAS 1\n"
+                 "OUVIR_DEPOIS_COMPLETAR 1\nTECLA_SINTESE_PALAVRA F11\n");
+    otherProgram.isPassword = true;
+    GoToOtherProgram();
+    ASSERT_EQ(otherProgram.watched, 7U);
     services.log.written.clear();
-    queue.Post(Message::UM_KEY_DOWN, 'S');
-    queue.Post(Message::UM_CHAR, 's');
-    queue.Post(Message::UM_KEY_DOWN, vk::F1 + 10);
-    queue.Post(Message::UM_WORD_END);
+    otherProgram.Press('S');
+    otherProgram.Write("segredo ");
+    otherProgram.Press(vk::F1 + 10);
     Click("o");
     SelectByScanning(KeyOf("l"));
     EXPECT_FALSE(view->Profiles().Active().dictionary.GetWord("segredo"));
     EXPECT_TRUE(services.log.written.empty());
     EXPECT_EQ(services.speech.spoken, Texts());
     EXPECT_EQ(services.metrics.counts[Metric::KeyPress], 0);
-    desktop.MoveFocus(1);
 }
 
 } // namespace
