@@ -1,8 +1,48 @@
 #include "platform/qt/AccessibleBus.h"
 
+#include "platform/qt/AccessibleCaret.h"
+#include "platform/qt/AccessibleParagraph.h"
+#include "platform/qt/AccessiblePrograms.h"
+
 namespace ondrilo {
 
-class AccessibleBus::Watch : public AccessibleText {};
+/// Brings together what programs tell and who is followed.
+class AccessibleBus::Watch {
+  public:
+    void Follow(std::uint32_t process);
+    [[nodiscard]] const AccessibleFocus* Focus() const;
+    void FocusOrCaretChanged(std::uint32_t process);
+
+    std::uint32_t followed = 0;
+    AccessiblePrograms programs{[this](std::uint32_t process) {
+        FocusOrCaretChanged(process);
+    }};
+    AccessibleCaret caret{programs.Connection()};
+    AccessibleParagraph paragraph{programs.Connection(), [this] {
+                                      return Focus();
+                                  }};
+};
+
+void AccessibleBus::Watch::Follow(std::uint32_t process) {
+    followed = process;
+    paragraph.Drop();
+    caret.Forget();
+    if (const auto* focus = Focus())
+        caret.Move(*focus);
+}
+
+const AccessibleFocus* AccessibleBus::Watch::Focus() const {
+    return followed == 0 ? nullptr : programs.FocusOf(followed);
+}
+
+void AccessibleBus::Watch::FocusOrCaretChanged(std::uint32_t process) {
+    if (process != followed)
+        return;
+    if (const auto* focus = Focus()) {
+        caret.Move(*focus);
+        paragraph.Renew();
+    }
+}
 
 AccessibleBus::AccessibleBus() : watch(std::make_unique<Watch>()) {
 }
@@ -14,15 +54,17 @@ void AccessibleBus::Follow(std::uint32_t process) {
 }
 
 Point AccessibleBus::CaretPosition() const {
-    return watch->CaretPosition();
+    return watch->caret.Position();
 }
 
 bool AccessibleBus::IsPassword() const {
-    return watch->IsPassword();
+    using Kind = AccessibleFocus::Kind;
+    const auto* focus = watch->Focus();
+    return focus && (focus->kind == Kind::Awaited || focus->kind == Kind::Password);
 }
 
 void AccessibleBus::ReadParagraph(std::function<void(Paragraph)> answer) {
-    watch->ReadParagraph(std::move(answer));
+    watch->paragraph.Read(std::move(answer));
 }
 
 } // namespace ondrilo

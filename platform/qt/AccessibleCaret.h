@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/Geometry.h"
+#include "platform/qt/AccessiblePrograms.h"
+
+namespace ondrilo {
+
+/// Where the caret of another program is on the screen.
+class AccessibleCaret {
+  public:
+    explicit AccessibleCaret(AccessibilityConnection& connection) : connection(connection) {}
+    /// The caret has moved. One question is under way at a time; when it is answered, only the latest move
+    /// still counts.
+    void Move(const AccessibleFocus& focus);
+    /// The place is unknown until the next move.
+    void Forget();
+    /// Top left, in logical pixels; (0, 0) while unknown.
+    [[nodiscard]] Point Position() const { return position; }
+
+  private:
+    using Found = std::function<void(const std::optional<Rectangle>&)>;
+    void Ask();
+    void AskForOffset();
+    void AskForCharacter();
+    void AskForCharacterBefore();
+    void AskForObject(const std::optional<Rectangle>& lineAbove);
+    void AskForArea(const char* interface, const char* method, const QVariantList& arguments,
+                    const char* form, Found found);
+    /// False if the caret has moved meanwhile, and then it is asked for anew.
+    bool IsStillThere();
+    void Tell(Point native);
+
+    AccessibilityConnection& connection;
+    AccessibilityConnection::Question question;
+    std::optional<AccessibleFocus> latest; ///< not asked about yet
+    AccessibleFocus asked;
+    Point position;
+};
+
+} // namespace ondrilo
