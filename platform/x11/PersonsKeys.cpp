@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string_view>
+#include <vector>
 
 namespace ondrilo {
 namespace {
@@ -24,25 +25,29 @@ void ForEachKeyboard(const X11Connection& connection,
     }
 }
 
-Keycodes DownOn(const X11Connection& connection, std::uint8_t device) {
-    Keycodes down;
-    const auto cookie = xcb_input_query_device_state(connection.Get(), device);
-    const auto reply = Owned(xcb_input_query_device_state_reply(connection.Get(), cookie, nullptr));
-    if (!reply)
-        return down;
-    for (auto state = xcb_input_query_device_state_classes_iterator(reply.get()); state.rem > 0;
-         xcb_input_input_state_next(&state)) {
-        if (state.data->class_id != XCB_INPUT_INPUT_CLASS_KEY)
-            continue;
-        const auto* keys = reinterpret_cast<const xcb_input_key_state_t*>(state.data)->keys;
-        for (std::size_t keycode = 0; keycode < down.size(); ++keycode)
-            if (keys[keycode / 8] >> (keycode % 8) & 1)
-                down.set(keycode);
-    }
-    return down;
+} // namespace
+
+Keycodes KeycodesOf(const std::uint8_t* bits) {
+    Keycodes keycodes;
+    for (std::size_t keycode = 0; keycode < keycodes.size(); ++keycode)
+        keycodes[keycode] = (bits[keycode / 8] >> (keycode % 8) & 1) != 0;
+    return keycodes;
 }
 
-} // namespace
+DeviceKeys::DeviceKeys(const X11Connection& connection, std::uint8_t device)
+    : connection(connection), question(xcb_input_query_device_state(connection.Get(), device).sequence) {
+}
+
+Keycodes DeviceKeys::Down() const {
+    const auto reply = Owned(xcb_input_query_device_state_reply(connection.Get(), {question}, nullptr));
+    if (!reply)
+        return {};
+    for (auto state = xcb_input_query_device_state_classes_iterator(reply.get()); state.rem > 0;
+         xcb_input_input_state_next(&state))
+        if (state.data->class_id == XCB_INPUT_INPUT_CLASS_KEY)
+            return KeycodesOf(reinterpret_cast<const xcb_input_key_state_t*>(state.data)->keys);
+    return {};
+}
 
 PersonsKeys::PersonsKeys(const X11Connection& connection) : connection(connection) {
     if (!connection.Has(xcb_input_id))
@@ -52,12 +57,15 @@ PersonsKeys::PersonsKeys(const X11Connection& connection) : connection(connectio
 }
 
 Keycodes PersonsKeys::Down() const {
-    Keycodes down;
+    std::vector<DeviceKeys> keyboards;
     if (isAvailable)
         ForEachKeyboard(connection, [&](std::uint8_t device, bool typesForPrograms) {
             if (!typesForPrograms)
-                down |= DownOn(connection, device);
+                keyboards.emplace_back(connection, device);
         });
+    Keycodes down;
+    for (const auto& keyboard : keyboards)
+        down |= keyboard.Down();
     return down;
 }
 

@@ -70,10 +70,22 @@ std::optional<KeyStroke> SpareKeys::StrokeOf(char c) {
         Lend(*spare, pair);
     }
     spare->lastUse = ++uses;
-    connection.Synchronize();
-    std::this_thread::sleep_until(spare->since + kSettleTime);
     const bool isPlain = SymbolOf(c) == pair.plain;
     return KeyStroke{spare->keycode, isPlain ? 0 : KeyboardMap::kShiftBit};
+}
+
+bool SpareKeys::Settle(Keycode keycode) const {
+    const auto spare = std::ranges::find(spares, keycode, &Spare::keycode);
+    if (spare == spares.end() || std::chrono::steady_clock::now() >= spare->since + kSettleTime)
+        return false;
+    connection.Synchronize();
+    std::this_thread::sleep_until(spare->since + kSettleTime);
+    return true;
+}
+
+bool SpareKeys::IsLent(Keycode keycode) const {
+    const auto spare = std::ranges::find(spares, keycode, &Spare::keycode);
+    return spare != spares.end() && spare->lent != Pair{};
 }
 
 void SpareKeys::Detach() {

@@ -26,8 +26,12 @@ class SpareKeys {
     /// Lends a keycode to the next of the Portuguese letters and signs that `canWrite` does not know; false
     /// if there is none left to lend.
     bool LendNext(const std::function<bool(char32_t)>& canWrite);
-    /// The stroke for a character; where it is newly lent, waits until programs can have noticed.
+    /// The stroke for a character, newly lent where necessary.
     [[nodiscard]] std::optional<KeyStroke> StrokeOf(char c);
+    /// Waits, where the keycode has been lent only just, until programs can have noticed; false if there was
+    /// nothing to wait for.
+    bool Settle(Keycode keycode) const;
+    [[nodiscard]] bool IsLent(Keycode keycode) const;
     /// Takes everything back.
     void Detach();
 

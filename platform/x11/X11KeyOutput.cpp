@@ -2,11 +2,11 @@
 
 #include "platform/x11/KeyGuardian.h"
 #include "platform/x11/KeyboardMap.h"
+#include "platform/x11/KeyboardWatch.h"
 #include "platform/x11/PersonsKeys.h"
 #include "platform/x11/SpareKeys.h"
 
 #include <xcb/xtest.h>
-#include <xkbcommon/xkbcommon-x11.h>
 
 #include <algorithm>
 #include <thread>
@@ -18,15 +18,11 @@
 namespace ondrilo {
 namespace {
 
-constexpr std::uint8_t kSynchronization = 0;
 /// So long after the last character a program may still fetch the keyboard's map to understand it.
 constexpr std::chrono::milliseconds kLateReaders{300};
 
-struct LockState {
-    unsigned base = 0; ///< modifiers of keys that are down
-    unsigned locked = 0;
-    unsigned layout = 0;
-};
+constexpr std::chrono::milliseconds kFreshness{1};
+constexpr int kCharactersPerLook = 4;
 
 } // namespace
 
@@ -39,9 +35,9 @@ class X11KeyOutput::Implementation {
     void Type(char c);
     void Down(int code);
     void Up(int code);
-    [[nodiscard]] LockState State() const;
+    [[nodiscard]] bool IsCapsLockOn() { return (watch.Look().locked & KeyboardMap::kLockBit) != 0; }
     /// The map of the layout in effect; brought up to date first.
-    const KeyboardMap& Map(unsigned layout);
+    const KeyboardMap& Map();
     bool LendNext();
 
     X11Connection connection;
@@ -49,49 +45,44 @@ class X11KeyOutput::Implementation {
     };
 
   private:
-    void Listen();
-    void ReadKeymap();
-    void SkipEvents();
+    void Look();
+    void LookInBurst();
+    [[nodiscard]] std::optional<KeyStroke> StrokeOf(char c);
     void Send(std::uint8_t type, Keycode keycode);
     void SendSilently(std::uint8_t type, Keycode keycode);
+    void Flush();
+    void Free(Keycode keycode);
     void Press(Keycode keycode);
     void Release(Keycode keycode);
+    [[nodiscard]] bool IsHeld(Keycode keycode) const { return std::ranges::count(held, keycode) > 0; }
     [[nodiscard]] unsigned HeldModifiers() const;
     std::vector<Keycode> PressModifiers(unsigned wanted);
     void PressStroke(const KeyStroke& stroke, std::optional<char> meaning = std::nullopt);
     void LockNumLock(bool locked);
-    void LiftPersonsModifiers(const LockState& state);
+    void LiftPersonsModifiers();
     void PutBackPersonsModifiers();
     [[nodiscard]] bool HoldsWritingKey() const;
 
-    std::unique_ptr<xkb_context, decltype(&xkb_context_unref)> context{xkb_context_new(XKB_CONTEXT_NO_FLAGS),
-                                                                       xkb_context_unref};
     KeyGuardian guardian;
     PersonsKeys person{connection};
+    KeyboardWatch watch{connection};
     SpareKeys spares{connection};
     Lending lending;
     std::shared_ptr<xkb_keymap> keymap;
     std::optional<KeyboardMap> map;
-    bool isStale = true;
-    std::uint8_t keyboardEvent = kSynchronization;
+    KeyboardState seen;
+    std::chrono::steady_clock::time_point seenAt;
+    int typedSinceSeen = 0;
     std::vector<std::pair<int, Keycode>> heldCodes;
     std::vector<Keycode> held;
+    std::vector<Keycode> released; ///< not yet sent
     std::vector<Keycode> lifted;
     std::chrono::steady_clock::time_point lastTyped;
 };
 
 X11KeyOutput::Implementation::Implementation(Lending lending) : lending(lending) {
-    if (!connection.Has(xcb_test_id) || !context)
-        return;
-    if (!xkb_x11_setup_xkb_extension(connection.Get(), XKB_X11_MIN_MAJOR_XKB_VERSION,
-                                     XKB_X11_MIN_MINOR_XKB_VERSION, XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS,
-                                     nullptr, nullptr, &keyboardEvent, nullptr))
-        return;
-    Listen();
-    const LockState state = State();
-    ReadKeymap();
-    if (keymap)
-        Map(state.layout);
+    if (connection.Has(xcb_test_id) && watch.IsAvailable())
+        Map();
 }
 
 X11KeyOutput::Implementation::~Implementation() {
@@ -100,43 +91,21 @@ X11KeyOutput::Implementation::~Implementation() {
     while (!held.empty())
         Release(held.back());
     PutBackPersonsModifiers();
+    Flush();
     connection.Synchronize();
     std::this_thread::sleep_until(lastTyped + kLateReaders);
     spares.Detach();
 }
 
-void X11KeyOutput::Implementation::Listen() {
-    constexpr std::uint16_t kEvents = XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY;
-    constexpr std::uint16_t kAllParts = 0xFF;
-    xcb_xkb_select_events(connection.Get(), XCB_XKB_ID_USE_CORE_KBD, kEvents, 0, kEvents, kAllParts,
-                          kAllParts, nullptr);
-}
-
-void X11KeyOutput::Implementation::ReadKeymap() {
-    // What we type arrives with the map of the device through which programs type. Where the person's own
-    // keyboard has another one, theirs is not what the programs will see.
-    const auto device = person.TypingDevice();
-    const auto id = device ? *device : xkb_x11_get_core_keyboard_device_id(connection.Get());
-    auto* read =
-        xkb_x11_keymap_new_from_device(context.get(), connection.Get(), id, XKB_KEYMAP_COMPILE_NO_FLAGS);
-    if (read)
-        keymap = {read, xkb_keymap_unref};
-}
-
-void X11KeyOutput::Implementation::SkipEvents() {
-    while (const auto event = Owned(xcb_poll_for_event(connection.Get())))
-        isStale |= (event->response_type & 0x7F) == keyboardEvent ||
-                   (event->response_type & 0x7F) == XCB_MAPPING_NOTIFY;
-}
-
-const KeyboardMap& X11KeyOutput::Implementation::Map(unsigned layout) {
-    SkipEvents();
-    if (isStale && map)
-        ReadKeymap();
-    if (isStale || map->Layout() != layout) {
+const KeyboardMap& X11KeyOutput::Implementation::Map() {
+    const unsigned layout = watch.Layout();
+    const bool isNew = watch.HasNewKeymap([this](Keycode keycode) { return spares.IsLent(keycode); });
+    if (isNew)
+        if (const auto read = watch.ReadKeymap())
+            keymap = read;
+    if (keymap && (isNew || !map || map->Layout() != layout)) {
         map.emplace(keymap, layout);
         spares.Attach();
-        isStale = false;
         while (lending == Lending::AtOnce && LendNext()) {
         }
     }
@@ -150,10 +119,20 @@ bool X11KeyOutput::Implementation::LendNext() {
     return false;
 }
 
-LockState X11KeyOutput::Implementation::State() const {
-    const auto cookie = xcb_xkb_get_state(connection.Get(), XCB_XKB_ID_USE_CORE_KBD);
-    const auto reply = Owned(xcb_xkb_get_state_reply(connection.Get(), cookie, nullptr));
-    return reply ? LockState{reply->baseMods, reply->lockedMods, reply->group} : LockState{};
+void X11KeyOutput::Implementation::Look() {
+    seen = watch.Look();
+    seenAt = std::chrono::steady_clock::now();
+    typedSinceSeen = 0;
+}
+
+/// Each look waits for the server, which would make a long text slow; a person does nothing that matters in
+/// the fraction of a millisecond that a few characters take.
+void X11KeyOutput::Implementation::LookInBurst() {
+    const bool isFresh = std::chrono::steady_clock::now() < seenAt + kFreshness;
+    const bool isUntouched = (seen.base & ~HeldModifiers()) == 0;
+    if (!isFresh || !isUntouched || typedSinceSeen == kCharactersPerLook)
+        Look();
+    ++typedSinceSeen;
 }
 
 void X11KeyOutput::Implementation::Send(std::uint8_t type, Keycode keycode) {
@@ -165,22 +144,37 @@ void X11KeyOutput::Implementation::SendSilently(std::uint8_t type, Keycode keyco
     Send(type, keycode);
 }
 
+/// Strokes are sent whole: a key of the person's that came between a Shift of ours and its letter would be
+/// changed.
+void X11KeyOutput::Implementation::Flush() {
+    connection.Flush();
+    for (const Keycode keycode : released)
+        if (!IsHeld(keycode))
+            guardian.Released(keycode);
+    released.clear();
+}
+
+/// A press of a key that is down already would be lost.
+void X11KeyOutput::Implementation::Free(Keycode keycode) {
+    if (seen.down[keycode] || IsHeld(keycode))
+        SendSilently(XCB_KEY_RELEASE, keycode);
+    else if (seen.downForTheServer[keycode]) // put back by us once, and let go by the person since
+        Send(XCB_KEY_RELEASE, keycode);
+    seen.down.reset(keycode);
+    seen.downForTheServer.reset(keycode);
+}
+
 void X11KeyOutput::Implementation::Press(Keycode keycode) {
+    Free(keycode);
     guardian.Pressed(keycode);
     held.push_back(keycode);
-    // The typing device may still believe this modifier down, from when we put back one that the person has
-    // let go since, and would swallow the press.
-    if (map->IsModifier(keycode))
-        Send(XCB_KEY_RELEASE, keycode);
     Send(XCB_KEY_PRESS, keycode);
-    connection.Flush();
 }
 
 void X11KeyOutput::Implementation::Release(Keycode keycode) {
     Send(XCB_KEY_RELEASE, keycode);
-    connection.Flush();
     std::erase(held, keycode);
-    guardian.Released(keycode);
+    released.push_back(keycode);
 }
 
 unsigned X11KeyOutput::Implementation::HeldModifiers() const {
@@ -223,32 +217,32 @@ void X11KeyOutput::Implementation::LockNumLock(bool locked) {
     xcb_xkb_latch_lock_state(connection.Get(), XCB_XKB_ID_USE_CORE_KBD, bit, value, 0, 0, 0, 0, 0);
 }
 
-void X11KeyOutput::Implementation::LiftPersonsModifiers(const LockState& state) {
-    if ((state.base & ~HeldModifiers()) == 0)
+void X11KeyOutput::Implementation::LiftPersonsModifiers() {
+    if ((seen.base & ~HeldModifiers()) == 0)
         return;
     const Keycodes down = person.Down();
     for (unsigned keycode = 0; keycode < down.size(); ++keycode) {
         const auto key = static_cast<Keycode>(keycode);
-        if (!down[keycode] || !map->IsModifier(key) || std::ranges::count(held, key) > 0)
+        if (!down[keycode] || !map->IsModifier(key) || IsHeld(key))
             continue;
         lifted.push_back(key);
         SendSilently(XCB_KEY_RELEASE, key);
+        seen.down.reset(keycode);
+        seen.downForTheServer.reset(keycode);
     }
 }
 
 void X11KeyOutput::Implementation::PutBackPersonsModifiers() {
     if (lifted.empty())
         return;
-    Keycodes down = person.Down();
     for (const Keycode keycode : lifted)
-        if (down[keycode])
-            SendSilently(XCB_KEY_PRESS, keycode);
-    // One that the person let go between the question and our press would stay down for ever.
-    down = person.Down();
+        SendSilently(XCB_KEY_PRESS, keycode);
+    Flush();
+    // One that the person has let go since it was lifted would stay down for ever.
+    const Keycodes down = person.Down();
     for (const Keycode keycode : lifted)
         if (!down[keycode])
             SendSilently(XCB_KEY_RELEASE, keycode);
-    connection.Flush();
     lifted.clear();
 }
 
@@ -256,39 +250,45 @@ bool X11KeyOutput::Implementation::HoldsWritingKey() const {
     return std::ranges::any_of(held, [this](Keycode keycode) { return !map->IsModifier(keycode); });
 }
 
+std::optional<KeyStroke> X11KeyOutput::Implementation::StrokeOf(char c) {
+    const auto stroke = Map().StrokeOf(CodePointOf(c));
+    return stroke || static_cast<unsigned char>(c) < ' ' ? stroke : spares.StrokeOf(c);
+}
+
 void X11KeyOutput::Implementation::Type(char c) {
-    const LockState state = State();
-    const KeyboardMap& current = Map(state.layout);
-    auto stroke = current.StrokeOf(CodePointOf(c));
-    if (!stroke && static_cast<unsigned char>(c) >= ' ')
-        stroke = spares.StrokeOf(c);
+    LookInBurst();
+    const auto stroke = StrokeOf(c);
     if (!stroke)
         return;
-    LiftPersonsModifiers(state);
+    if (spares.Settle(stroke->keycode))
+        Look();
+    LiftPersonsModifiers();
     PressStroke(*stroke, c);
     Release(stroke->keycode);
     if (!HoldsWritingKey())
         PutBackPersonsModifiers();
+    Flush();
     lastTyped = std::chrono::steady_clock::now();
 }
 
 void X11KeyOutput::Implementation::Down(int code) {
-    const LockState state = State();
-    const KeyboardMap& current = Map(state.layout);
+    Look();
+    const KeyboardMap& current = Map();
     const auto isKnown = [code](const auto& entry) {
         return entry.first == code;
     };
-    const auto stroke = current.StrokeOfCode(code, (state.locked & current.NumLockBit()) != 0);
+    const auto stroke = current.StrokeOfCode(code, (seen.locked & current.NumLockBit()) != 0);
     if (!stroke || std::ranges::any_of(heldCodes, isKnown))
         return;
     heldCodes.emplace_back(code, stroke->keycode);
     if (current.IsModifier(stroke->keycode)) {
         Press(stroke->keycode);
-        return;
+    } else {
+        LiftPersonsModifiers();
+        PressStroke(*stroke);
+        lastTyped = std::chrono::steady_clock::now();
     }
-    LiftPersonsModifiers(state);
-    PressStroke(*stroke);
-    lastTyped = std::chrono::steady_clock::now();
+    Flush();
 }
 
 void X11KeyOutput::Implementation::Up(int code) {
@@ -300,9 +300,17 @@ void X11KeyOutput::Implementation::Up(int code) {
         return;
     const Keycode keycode = found->second;
     heldCodes.erase(found);
+    if (!IsHeld(keycode)) // a character needed the key meanwhile
+        return;
     Release(keycode);
-    if (!HoldsWritingKey())
+    if (map->IsModifier(keycode))
+        lifted.push_back(keycode); // from the person, too, should they hold it
+    if (!HoldsWritingKey() && !lifted.empty()) {
+        const Keycodes down = person.Down();
+        std::erase_if(lifted, [&down](Keycode key) { return !down[key]; });
         PutBackPersonsModifiers();
+    }
+    Flush();
 }
 
 X11KeyOutput::X11KeyOutput(Lending lending) : implementation(std::make_unique<Implementation>(lending)) {
@@ -317,7 +325,7 @@ bool X11KeyOutput::IsAvailable() const {
 std::optional<LayoutKey> X11KeyOutput::KeyOf(char c) const {
     if (!IsAvailable())
         return std::nullopt;
-    return implementation->Map(implementation->State().layout).KeyOf(c);
+    return implementation->Map().KeyOf(c);
 }
 
 void X11KeyOutput::OnAnnounce(Announce announce) {
@@ -342,18 +350,18 @@ void X11KeyOutput::KeyUp(int code) {
 bool X11KeyOutput::LendNext() {
     if (!IsAvailable())
         return false;
-    implementation->Map(implementation->State().layout);
+    implementation->Map();
     return implementation->LendNext();
 }
 
 bool X11KeyOutput::IsCapsLockOn() const {
-    return IsAvailable() && (implementation->State().locked & KeyboardMap::kLockBit) != 0;
+    return IsAvailable() && implementation->IsCapsLockOn();
 }
 
 Text X11KeyOutput::KeyName(int code) const {
     if (!IsAvailable())
         return NameOfVirtualKey(code);
-    return implementation->Map(implementation->State().layout).NameOf(code);
+    return implementation->Map().NameOf(code);
 }
 
 } // namespace ondrilo
