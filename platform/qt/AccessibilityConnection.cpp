@@ -85,8 +85,9 @@ void AccessibilityConnection::TellFocus(const QDBusMessage& event) {
 }
 
 void AccessibilityConnection::TellCaret(const QDBusMessage& event) {
-    if (IsCredible(event))
-        events.caretMoved(SourceOf(event), event.arguments()[1].toInt());
+    const int offset = IsCredible(event) ? event.arguments()[1].toInt() : -1;
+    if (offset >= 0)
+        events.caretMoved(SourceOf(event), offset);
 }
 
 void AccessibilityConnection::TellGone(const QDBusMessage& event) {

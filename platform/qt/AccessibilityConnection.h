@@ -39,7 +39,7 @@ class AccessibilityConnection : public QObject {
     struct DropQuestion {
         void operator()(QDBusPendingCallWatcher* question) const;
     };
-    /// A question that is under way; whoever drops it gets no answer. True until then.
+    /// A question that is under way; whoever drops it gets no answer.
     using Question = std::unique_ptr<QDBusPendingCallWatcher, DropQuestion>;
     /// What was answered; empty after an error, an answer of another form, or when none came in time.
     using Answer = std::function<void(const QVariantList&)>;

@@ -54,6 +54,7 @@ void AccessibleBus::Follow(std::uint32_t process) {
 }
 
 Point AccessibleBus::CaretPosition() const {
+    watch->caret.Renew();
     return watch->caret.Position();
 }
 

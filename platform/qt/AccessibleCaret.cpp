@@ -43,14 +43,20 @@ void AccessibleCaret::Move(const AccessibleFocus& focus) {
 
 void AccessibleCaret::Forget() {
     latest.reset();
+    asked = {};
     question.reset();
     position = {};
+}
+
+void AccessibleCaret::Renew() {
+    if (!question && !asked.object.path.isEmpty())
+        Move(asked);
 }
 
 void AccessibleCaret::Ask() {
     asked = *std::exchange(latest, std::nullopt);
     if (asked.caret)
-        AskForCharacter();
+        AskForLength();
     else
         AskForOffset();
 }
@@ -60,12 +66,25 @@ void AccessibleCaret::AskForOffset() {
         connection.AskNumber(asked.object, AccessibilityConnection::kText, "CaretOffset", [this](int offset) {
             if (!IsStillThere())
                 return;
+            if (offset < 0)
+                return Tell({});
             asked.caret = offset;
-            if (offset >= 0)
-                AskForCharacter();
-            else
-                Tell({});
+            AskForLength();
         });
+}
+
+/// There is no character behind the last one. Some toolkits tell its place all the same, others zeros, and
+/// complain.
+void AccessibleCaret::AskForLength() {
+    question = connection.AskNumber(asked.object, AccessibilityConnection::kText, "CharacterCount",
+                                    [this](int length) {
+                                        if (!IsStillThere())
+                                            return;
+                                        if (*asked.caret < length)
+                                            AskForCharacter();
+                                        else
+                                            AskForCharacterBefore();
+                                    });
 }
 
 void AccessibleCaret::AskForCharacter() {
@@ -73,18 +92,17 @@ void AccessibleCaret::AskForCharacter() {
                [this](const std::optional<Rectangle>& character) {
                    if (character)
                        Tell({character->x, character->y});
-                   else if (*asked.caret > 0)
-                       AskForCharacterBefore();
                    else
-                       AskForObject(std::nullopt);
+                       AskForCharacterBefore();
                });
 }
 
-/// Behind the last character there is none for some toolkits.
 void AccessibleCaret::AskForCharacterBefore() {
+    if (*asked.caret <= 0)
+        return AskForObject(std::nullopt);
     AskForArea(AccessibilityConnection::kText, "GetCharacterExtents", {*asked.caret - 1, kOnScreen}, "iiii",
                [this](const std::optional<Rectangle>& character) {
-                   // A line break has no width for them.
+                   // A line break has no width.
                    if (character && character->width > 0)
                        Tell({character->x + character->width, character->y});
                    else

@@ -14,6 +14,8 @@ class AccessibleCaret {
     void Move(const AccessibleFocus& focus);
     /// The place is unknown until the next move.
     void Forget();
+    /// A window that was moved or scrolled tells nothing: who uses the place has it asked anew.
+    void Renew();
     /// Top left, in logical pixels; (0, 0) while unknown.
     [[nodiscard]] Point Position() const { return position; }
 
@@ -21,6 +23,7 @@ class AccessibleCaret {
     using Found = std::function<void(const std::optional<Rectangle>&)>;
     void Ask();
     void AskForOffset();
+    void AskForLength();
     void AskForCharacter();
     void AskForCharacterBefore();
     void AskForObject(const std::optional<Rectangle>& lineAbove);
@@ -33,7 +36,7 @@ class AccessibleCaret {
     AccessibilityConnection& connection;
     AccessibilityConnection::Question question;
     std::optional<AccessibleFocus> latest; ///< not asked about yet
-    AccessibleFocus asked;
+    AccessibleFocus asked;                 ///< with its path empty if there is none
     Point position;
 };
 
