@@ -36,8 +36,11 @@ class ChildProcess {
 /// The roles that this test program plays when it is started again by one of its tests.
 inline constexpr auto kHoldShift = "--hold-shift"; ///< lends spare keycodes, presses Shift and stays
 inline constexpr auto kHoldLock = "--hold-lock";   ///< takes the lock of the file that follows and stays
+inline constexpr auto kTextBoxes = "--text-boxes"; ///< shows a text and a password under that title
 /// This program, in that role.
 [[nodiscard]] std::vector<std::string> Ourselves(const std::vector<std::string>& arguments);
+/// Plays that role until it is ended.
+int ShowTextBoxes(int argc, char** argv);
 
 /// Gives a window the focus and waits until the server's keys really go there: window managers tell of an
 /// active window a moment earlier.

@@ -57,6 +57,8 @@ int main(int argc, char** argv) {
         ondrilo::HoldShift();
     if (role == ondrilo::kHoldLock && argc > 2)
         ondrilo::HoldLock(argv[2]);
+    if (role == ondrilo::kTextBoxes)
+        return ondrilo::ShowTextBoxes(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
