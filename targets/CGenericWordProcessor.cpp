@@ -3,6 +3,7 @@
 #include "text/NormalForm.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace ondrilo {
 namespace {
@@ -28,12 +29,13 @@ CGenericWordProcessor::CGenericWordProcessor(WindowId targetWindow, CKeyboard& k
                                              Surroundings surroundings)
     : ContextWordProcessor(keyboard), targetWindow(targetWindow), hook(surroundings.hook),
       accessible(surroundings.accessible), desktop(surroundings.desktop), queue(surroundings.queue),
-      contextRead(std::move(surroundings.contextRead)), unitEnds(queue) {
+      contextRead(std::move(surroundings.contextRead)), unitEnds(queue), activeWindow(targetWindow) {
 }
 
 bool CGenericWordProcessor::Create() {
     if (!hook.InitializeHook(targetWindow, [this](const MessageEvent& event) { OnEvent(event); }))
         return false;
+    focusHook = desktop.OnFocusChange([this] { OnFocusChange(); });
     accessible.Follow(desktop.ProcessOf(targetWindow));
     AskForText();
     return true;
@@ -41,6 +43,7 @@ bool CGenericWordProcessor::Create() {
 
 void CGenericWordProcessor::Destroy() {
     hook.TerminateHook();
+    focusHook.reset();
     accessible.Follow(0);
 }
 
@@ -96,6 +99,13 @@ void CGenericWordProcessor::OnEvent(const MessageEvent& event) {
         break;
     }
     queue.Post(event.message, event.first, event.second);
+}
+
+/// Another window of the program is another text.
+void CGenericWordProcessor::OnFocusChange() {
+    const auto window = desktop.ForegroundWindow();
+    if (window != 0 && std::exchange(activeWindow, window) != window)
+        ResetShadow();
 }
 
 void CGenericWordProcessor::KeyDown(int code) {

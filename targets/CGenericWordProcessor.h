@@ -70,6 +70,7 @@ class CGenericWordProcessor : public ContextWordProcessor {
   private:
     [[nodiscard]] TextContext Context() const override { return {text, cursor}; }
     void OnEvent(const MessageEvent& event);
+    void OnFocusChange();
     void KeyDown(int code);
     void KeyUp(int code);
     void Character(char c, std::int32_t keyData);
@@ -95,6 +96,8 @@ class CGenericWordProcessor : public ContextWordProcessor {
     bool mouseTracked = true;
     bool accessibleRefresh = false; ///< the real text is awaited
     std::optional<std::int32_t> lastMousePosition;
+    WindowId activeWindow; ///< the program's window that has the focus: the target's or, say, a dialog of it
+    RegistrationHandle focusHook;
 };
 
 } // namespace ondrilo

@@ -68,6 +68,10 @@ TEST_F(GenericWordProcessorTest, WhatMovesTheInsertionPointUnseenThrowsTheShadow
         [this] { program.Click(Message::UM_RIGHT_DOWN); },
         [this] { program.Write("\x16"); }, // Control and V
         [this] {
+            desktop.MoveFocus(kWindow + 1); // a dialog of the program
+            desktop.MoveFocus(kWindow);
+        },
+        [this] {
             program.surface.KeyDown(vk::Control);
             program.Press(vk::Left);
             program.surface.KeyUp(vk::Control);
