@@ -42,9 +42,16 @@ void AccessibilityConnection::DropQuestion::operator()(QDBusPendingCallWatcher* 
 AccessibilityConnection::AccessibilityConnection(Events events)
     : events(std::move(events)), name("accessibility-" + QString::number(reinterpret_cast<quintptr>(this))),
       bus(QString()) {
+    InBackground([] { QDBusConnection::sessionBus(); }, [this] { FindBus(); });
+}
+
+AccessibilityConnection::~AccessibilityConnection() {
+    if (isGreeted) // or it would wait for the greeting
+        QDBusConnection::disconnectFromBus(name);
+}
+
+void AccessibilityConnection::FindBus() {
     const auto session = QDBusConnection::sessionBus();
-    if (!session.isConnected())
-        return;
     const QVariantList on{"org.a11y.Status", "IsEnabled", QVariant::fromValue(QDBusVariant(true))};
     enabling =
         Send(session, Call(kStarter, kStarterPath, kProperties, "Set", on), "", [](const QVariantList&) {});
@@ -55,19 +62,20 @@ AccessibilityConnection::AccessibilityConnection(Events events)
                    });
 }
 
-AccessibilityConnection::~AccessibilityConnection() {
-    QDBusConnection::disconnectFromBus(name);
+void AccessibilityConnection::Connect(const QString& where) {
+    InBackground([where, as = name] { QDBusConnection::connectToBus(where, as); }, [this] { Listen(); });
 }
 
-/// In a thread, since it waits for the bus to greet.
-void AccessibilityConnection::Connect(const QString& where) {
-    auto* greeting = QThread::create([where, as = name] { QDBusConnection::connectToBus(where, as); });
-    QObject::connect(greeting, &QThread::finished, this, &AccessibilityConnection::Listen);
-    QObject::connect(greeting, &QThread::finished, greeting, &QObject::deleteLater);
-    greeting->start();
+/// A new connection waits for its bus to greet.
+void AccessibilityConnection::InBackground(std::function<void()> connect, std::function<void()> connected) {
+    auto* thread = QThread::create(std::move(connect));
+    QObject::connect(thread, &QThread::finished, this, std::move(connected));
+    QObject::connect(thread, &QThread::finished, thread, &QObject::deleteLater);
+    thread->start();
 }
 
 void AccessibilityConnection::Listen() {
+    isGreeted = true;
     bus = QDBusConnection(name);
     if (!bus.isConnected())
         return;

@@ -67,12 +67,15 @@ class AccessibilityConnection : public QObject {
   private:
     Question Send(const QDBusConnection& bus, const QDBusMessage& message, const char* answerForm,
                   Answer answer);
-    void Connect(const QString& address);
+    void InBackground(std::function<void()> connect, std::function<void()> connected);
+    void FindBus();
+    void Connect(const QString& where);
     void Listen();
 
     Events events;
     QString name;
     QDBusConnection bus;
+    bool isGreeted = false; ///< by the accessibility bus
     Question address;
     Question enabling;
 };
