@@ -1,5 +1,7 @@
 #include "app/KeySender.h"
 
+#include <utility>
+
 namespace ondrilo {
 namespace {
 
@@ -28,10 +30,9 @@ void KeySender::SendKey(TextView output) {
 }
 
 void KeySender::ReleaseShift() {
-    if (!shiftLatched)
+    if (!std::exchange(shiftLatched, false))
         return;
     keyboardSimulator.ReleaseKey(kShiftKey);
-    shiftLatched = false;
     keyboard.LightByOutput(kShiftKey, false);
 }
 

@@ -2,6 +2,8 @@
 
 #include "targets/CGenericWordProcessor.h"
 
+#include <utility>
+
 namespace ondrilo {
 namespace {
 
@@ -98,15 +100,15 @@ void TargetController::AttachForeground() {
 /// Nobody has the focus, as after a click on the bare desktop or at the end of a program, and what the person
 /// writes next would be lost. The window that they wrote in gets it back, or else our editor.
 bool TargetController::GiveFocusBack() {
-    if (gaveFocusBack)
+    const bool isElsewhere =
+        desktop.ProcessOf(lastForegroundWindow) != 0 && !desktop.IsOurs(lastForegroundWindow);
+    const bool hasEditor = targets.Internal() && frame.State() != WindowState::Minimized;
+    if (std::exchange(gaveFocusBack, isElsewhere || hasEditor) || !gaveFocusBack)
         return false;
-    if (desktop.ProcessOf(lastForegroundWindow) != 0 && !desktop.IsOurs(lastForegroundWindow))
+    if (isElsewhere)
         desktop.Activate(lastForegroundWindow);
-    else if (targets.Internal() && frame.State() != WindowState::Minimized)
-        frame.Activate();
     else
-        return false;
-    gaveFocusBack = true;
+        frame.Activate();
     countdowns.target.Restart();
     return true;
 }
