@@ -1,5 +1,6 @@
 #include "app/CTessivorApp.h"
 #include "app/CTessivorView.h"
+#include "app/SessionKindNotice.h"
 #include "app/ui/QtDialogs.h"
 #include "app/ui/QtOptionDialogs.h"
 #include "app/ui/QtSessionWindows.h"
@@ -35,11 +36,9 @@ namespace {
 
 constexpr int kLendingPause = 200; // milliseconds
 
-UserFolders FoldersOfThisPerson() {
-    return UserFolders::FromEnvironment([](const std::string& name) {
-        const char* value = std::getenv(name.c_str());
-        return std::string(value ? value : "");
-    });
+std::string Variable(const std::string& name) {
+    const char* value = std::getenv(name.c_str());
+    return value ? value : "";
 }
 
 /// One run of the program: which adapter serves which interface. Everything ends in the reverse order of its
@@ -117,12 +116,17 @@ int Run(const std::filesystem::path& dataFolder, QtDesktop& desktop, QtMessageBo
             lending.stop();
     });
     lending.start(kLendingPause);
+    QTimer::singleShot(0, &frame,
+                       [&] { TellSessionKind(SessionKind::FromEnvironment(Variable), data, boxes, frame); });
     return QApplication::exec();
 }
 
 int Main(int count, char** words) {
     // Keys and text must be there for assistive programs that start after this one, too.
     qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
+    // Only as a program of the X server can the window stay without the focus and write in other programs.
+    if (SessionKind::FromEnvironment(Variable).hasX && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "xcb;wayland");
     const QApplication application(count, words);
     PortugueseTexts texts;
     QApplication::installTranslator(&texts);
@@ -135,7 +139,7 @@ int Main(int count, char** words) {
     QtDesktop desktop;
     QtMessageBoxes boxes(desktop);
     FlockInstanceLock lock;
-    CTessivorApp app(FoldersOfThisPerson(), lock, boxes);
+    CTessivorApp app(UserFolders::FromEnvironment(Variable), lock, boxes);
     switch (app.InitInstance()) {
     case CTessivorApp::Start::AlreadyRunning:
         return EXIT_SUCCESS;
