@@ -3,7 +3,8 @@
 #include <cstdint>
 
 /// The library that watches another program's keys and mouse: whatever a program in another language may need
-/// of it, too, so its functions are those of C. One program is watched at a time.
+/// of it, too, so its functions are those of C. One program is watched at a time, and one thread calls them
+/// all.
 ///
 /// Keys are reported while a window of the watched program is active, mouse buttons and moves while the
 /// pointer is over one of its windows. The messages and their numbers are those of platform/MessageQueue.h:

@@ -44,8 +44,10 @@ void QtTargetHook::Expect(std::uint8_t keycode, bool isPress, std::int32_t meani
 
 bool QtTargetHook::InitializeHook(WindowId target, Receiver newReceiver) {
     TerminateHook();
+    if (!::InitializeHook(static_cast<std::uint32_t>(target), PostToInbox, &inbox))
+        return false;
     receiver = std::move(newReceiver);
-    return ::InitializeHook(static_cast<std::uint32_t>(target), PostToInbox, &inbox);
+    return true;
 }
 
 void QtTargetHook::TerminateHook() {

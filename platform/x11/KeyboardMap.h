@@ -38,6 +38,8 @@ class KeyboardMap {
     [[nodiscard]] Text NameOf(int code) const;
 
     [[nodiscard]] unsigned NumLockBit() const { return numLockBit; }
+    /// That of AltGr.
+    [[nodiscard]] unsigned LevelThreeBit() const { return levelThreeBit; }
     /// The modifier bits that a key sets while it is held; 0 for all others.
     [[nodiscard]] unsigned ModifiersOf(Keycode keycode) const { return modifiers[keycode]; }
     [[nodiscard]] bool IsModifier(Keycode keycode) const { return isModifier[keycode]; }
