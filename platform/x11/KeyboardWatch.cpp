@@ -36,24 +36,14 @@ void KeyboardWatch::Listen() const {
 }
 
 KeyboardState KeyboardWatch::Look() {
-    const auto stateCookie = xcb_xkb_get_state(connection.Get(), XCB_XKB_ID_USE_CORE_KBD);
-    const auto downCookie = xcb_query_keymap(connection.Get());
-    const auto typing =
-        typingDevice ? std::optional<DeviceKeys>(std::in_place, connection, *typingDevice) : std::nullopt;
-    const auto state = Owned(xcb_xkb_get_state_reply(connection.Get(), stateCookie, nullptr));
-    const auto down = Owned(xcb_query_keymap_reply(connection.Get(), downCookie, nullptr));
-    KeyboardState seen;
-    if (typing)
-        seen.downForTheServer = typing->Down();
-    if (!state || !down)
-        return seen;
+    const auto cookie = xcb_xkb_get_state(connection.Get(), XCB_XKB_ID_USE_CORE_KBD);
+    const auto state = Owned(xcb_xkb_get_state_reply(connection.Get(), cookie, nullptr));
+    if (!state)
+        return {};
     while (const auto event = Owned(xcb_poll_for_queued_event(connection.Get())))
         Notice(*event); // older than the answer
     layout = state->group;
-    seen.base = state->baseMods;
-    seen.locked = state->lockedMods;
-    seen.down = KeycodesOf(down->keys);
-    return seen;
+    return {state->baseMods, state->lockedMods};
 }
 
 unsigned KeyboardWatch::Layout() {

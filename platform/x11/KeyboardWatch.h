@@ -16,8 +16,6 @@ namespace ondrilo {
 struct KeyboardState {
     unsigned base = 0; ///< modifiers of keys that are down
     unsigned locked = 0;
-    Keycodes down;             ///< on the one keyboard that programs see
-    Keycodes downForTheServer; ///< on the device through which programs type; it may lag behind
 };
 
 /// What the server says of its keyboard. It is told by events what changes, so that most questions need not

@@ -25,8 +25,6 @@ void ForEachKeyboard(const X11Connection& connection,
     }
 }
 
-} // namespace
-
 Keycodes KeycodesOf(const std::uint8_t* bits) {
     Keycodes keycodes;
     for (std::size_t keycode = 0; keycode < keycodes.size(); ++keycode)
@@ -34,20 +32,15 @@ Keycodes KeycodesOf(const std::uint8_t* bits) {
     return keycodes;
 }
 
-DeviceKeys::DeviceKeys(const X11Connection& connection, std::uint8_t device)
-    : connection(connection), question(xcb_input_query_device_state(connection.Get(), device).sequence) {
-}
-
-Keycodes DeviceKeys::Down() const {
-    const auto reply = Owned(xcb_input_query_device_state_reply(connection.Get(), {question}, nullptr));
-    if (!reply)
-        return {};
-    for (auto state = xcb_input_query_device_state_classes_iterator(reply.get()); state.rem > 0;
+Keycodes DownOf(const xcb_input_query_device_state_reply_t& device) {
+    for (auto state = xcb_input_query_device_state_classes_iterator(&device); state.rem > 0;
          xcb_input_input_state_next(&state))
         if (state.data->class_id == XCB_INPUT_INPUT_CLASS_KEY)
             return KeycodesOf(reinterpret_cast<const xcb_input_key_state_t*>(state.data)->keys);
     return {};
 }
+
+} // namespace
 
 PersonsKeys::PersonsKeys(const X11Connection& connection) : connection(connection) {
     if (!connection.Has(xcb_input_id))
@@ -57,15 +50,17 @@ PersonsKeys::PersonsKeys(const X11Connection& connection) : connection(connectio
 }
 
 Keycodes PersonsKeys::Down() const {
-    std::vector<DeviceKeys> keyboards;
+    // All are asked before the first answer is waited for.
+    std::vector<xcb_input_query_device_state_cookie_t> questions;
     if (isAvailable)
         ForEachKeyboard(connection, [&](std::uint8_t device, bool typesForPrograms) {
             if (!typesForPrograms)
-                keyboards.emplace_back(connection, device);
+                questions.push_back(xcb_input_query_device_state(connection.Get(), device));
         });
     Keycodes down;
-    for (const auto& keyboard : keyboards)
-        down |= keyboard.Down();
+    for (const auto question : questions)
+        if (const auto reply = Owned(xcb_input_query_device_state_reply(connection.Get(), question, nullptr)))
+            down |= DownOf(*reply);
     return down;
 }
 

@@ -11,20 +11,6 @@ namespace ondrilo {
 /// A set of keycodes.
 using Keycodes = std::bitset<256>;
 
-[[nodiscard]] Keycodes KeycodesOf(const std::uint8_t* bits);
-
-/// Which keys of one input device are down: asked at once and answered later, so that several questions share
-/// one way to the server and back.
-class DeviceKeys {
-  public:
-    DeviceKeys(const X11Connection& connection, std::uint8_t device);
-    [[nodiscard]] Keycodes Down() const;
-
-  private:
-    const X11Connection& connection;
-    unsigned question;
-};
-
 /// The input devices behind the one keyboard of the server: the person's, and the one through which programs
 /// type.
 class PersonsKeys {

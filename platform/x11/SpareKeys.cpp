@@ -67,9 +67,11 @@ std::optional<KeyStroke> SpareKeys::StrokeOf(char c) {
         spare = LeastUsed();
         if (!spare)
             return std::nullopt;
+        // Whoever still has a press of it to understand would take the new symbol for the old one.
+        std::this_thread::sleep_until(spare->lastUse + kLateReaders);
         Lend(*spare, pair);
     }
-    spare->lastUse = ++uses;
+    spare->lastUse = std::chrono::steady_clock::now();
     const bool isPlain = SymbolOf(c) == pair.plain;
     return KeyStroke{spare->keycode, isPlain ? 0 : KeyboardMap::kShiftBit};
 }
@@ -140,7 +142,7 @@ std::vector<SpareKeys::Spare> SpareKeys::ReadLent() const {
         const bool isEmpty = std::all_of(own, own + width, [](Keysym s) { return s == XKB_KEY_NoSymbol; });
         const bool isOurs = ours.contains(keycode) && ours.at(keycode) == pair;
         if ((isEmpty || isOurs) && !withModifiers[keycode])
-            found.push_back({keycode, pair, {}, 0});
+            found.push_back({keycode, pair, {}, {}});
     }
     return found;
 }

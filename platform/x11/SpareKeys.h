@@ -10,13 +10,17 @@
 
 namespace ondrilo {
 
+/// So long after a press a program may still fetch the keyboard's map to understand it.
+inline constexpr std::chrono::milliseconds kLateReaders{300};
+
 /// The keycodes to which the layout gives nothing, lent to characters that it lacks: a letter and its
 /// capital, or two signs, on one keycode. They stay lent for the whole run, since programs fetch the
 /// keyboard's map late. What is lent stands in a property of the root window too, by which the next run
 /// recognises what a killed one left behind.
 ///
-/// A window of our own reads the map only when the handler that types has returned. A burst into it with more
-/// strange signs than there are spare keycodes (about twenty) would come out wrong; Portuguese never does.
+/// Where a text needs more strange signs than there are spare keycodes (about twenty), typing waits for the
+/// readers before it lends one anew. A window of our own reads only when the handler that types has returned,
+/// and so would still get them wrong; Portuguese needs fewer.
 class SpareKeys {
   public:
     explicit SpareKeys(const X11Connection& connection);
@@ -45,7 +49,7 @@ class SpareKeys {
         Keycode keycode = 0;
         Pair lent;
         std::chrono::steady_clock::time_point since;
-        std::uint64_t lastUse = 0;
+        std::chrono::steady_clock::time_point lastUse;
     };
     static Pair PairOf(char c);
     [[nodiscard]] std::vector<Spare> ReadLent() const;
@@ -58,7 +62,6 @@ class SpareKeys {
     const X11Connection& connection;
     std::vector<Spare> spares;
     xcb_atom_t record;
-    std::uint64_t uses = 0;
 };
 
 } // namespace ondrilo

@@ -18,9 +18,6 @@
 namespace ondrilo {
 namespace {
 
-/// So long after the last character a program may still fetch the keyboard's map to understand it.
-constexpr std::chrono::milliseconds kLateReaders{300};
-
 constexpr std::chrono::milliseconds kFreshness{1};
 constexpr int kCharactersPerLook = 4;
 
@@ -51,7 +48,6 @@ class X11KeyOutput::Implementation {
     void Send(std::uint8_t type, Keycode keycode);
     void SendSilently(std::uint8_t type, Keycode keycode);
     void Flush();
-    void Free(Keycode keycode);
     void Press(Keycode keycode);
     void Release(Keycode keycode);
     [[nodiscard]] bool IsHeld(Keycode keycode) const { return std::ranges::count(held, keycode) > 0; }
@@ -125,8 +121,8 @@ void X11KeyOutput::Implementation::Look() {
     typedSinceSeen = 0;
 }
 
-/// Each look waits for the server, which would make a long text slow; a person does nothing that matters in
-/// the fraction of a millisecond that a few characters take.
+/// Each look waits for the server, which would make a long text slow. What is missed is a modifier that the
+/// person presses within the fraction of a millisecond that a few characters take.
 void X11KeyOutput::Implementation::LookInBurst() {
     const bool isFresh = std::chrono::steady_clock::now() < seenAt + kFreshness;
     const bool isUntouched = (seen.base & ~HeldModifiers()) == 0;
@@ -154,20 +150,13 @@ void X11KeyOutput::Implementation::Flush() {
     released.clear();
 }
 
-/// A press of a key that is down already would be lost.
-void X11KeyOutput::Implementation::Free(Keycode keycode) {
-    if (seen.down[keycode] || IsHeld(keycode))
-        SendSilently(XCB_KEY_RELEASE, keycode);
-    else if (seen.downForTheServer[keycode]) // put back by us once, and let go by the person since
-        Send(XCB_KEY_RELEASE, keycode);
-    seen.down.reset(keycode);
-    seen.downForTheServer.reset(keycode);
-}
-
 void X11KeyOutput::Implementation::Press(Keycode keycode) {
-    Free(keycode);
     guardian.Pressed(keycode);
     held.push_back(keycode);
+    // A press of a key that is down already would be lost: the person may be holding it just now, or the
+    // device through which programs type may believe it down since we put it back for the person. Of a
+    // release that is not needed programs see nothing.
+    Send(XCB_KEY_RELEASE, keycode);
     Send(XCB_KEY_PRESS, keycode);
 }
 
@@ -227,8 +216,6 @@ void X11KeyOutput::Implementation::LiftPersonsModifiers() {
             continue;
         lifted.push_back(key);
         SendSilently(XCB_KEY_RELEASE, key);
-        seen.down.reset(keycode);
-        seen.downForTheServer.reset(keycode);
     }
 }
 

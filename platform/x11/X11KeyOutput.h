@@ -40,9 +40,8 @@ class X11KeyOutput : public KeyOutput {
     static constexpr std::int32_t kSilent = -1;
     /// Told just before each press or release that stands for something else than its key. `meaning` is the
     /// Windows-1252 character that was asked for, of which Caps Lock and a held Shift may make another one,
-    /// or kSilent. Everything told reaches the server's keyboard. Not told: a release of a key that only the
-    /// device through which programs type believes down; among the raw events it shows, to programs it does
-    /// not.
+    /// or kSilent. Everything told reaches the server's keyboard. Not told: the release before each press,
+    /// which reaches it only where the person holds the key, and lets go of it for them.
     using Announce = std::function<void(Keycode keycode, bool isPress, std::int32_t meaning)>;
     void OnAnnounce(Announce announce);
     /// The name of a virtual key for the log: that of a special key, or what the key writes on the layout.
