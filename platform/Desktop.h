@@ -36,7 +36,8 @@ class Desktop {
     [[nodiscard]] virtual Rectangle ClientArea(WindowId window) const = 0;
     /// True if the point of the screen shows the window, and no other one over it.
     [[nodiscard]] virtual bool IsUnder(WindowId window, Point point) const = 0;
-    /// Calls `changed` on the user-interface thread after the focus of any program moved.
+    /// Calls `changed` on the user-interface thread after the focus of any program moved. Some desktops leave
+    /// it nowhere for a moment between two windows, and that is told too.
     [[nodiscard]] virtual RegistrationHandle OnFocusChange(std::function<void()> changed) = 0;
     [[nodiscard]] virtual Point PointerPosition() const = 0;
     virtual void MovePointer(Point position) = 0;

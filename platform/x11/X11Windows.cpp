@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <map>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -28,6 +29,8 @@ class X11Windows::Implementation {
         events.Flush();
         hasResources = queries.Has(xcb_res_id);
         ourProcess = ProcessOf(xcb_generate_id(queries.Get()));
+        if (ourProcess == 0) // a server that tells no processes: then the windows' own word is all there is
+            ourProcess = static_cast<std::uint32_t>(getpid());
         last = Foreground();
         if (last != XCB_WINDOW_NONE)
             WatchForItsEnd(last);
@@ -171,14 +174,13 @@ void X11Windows::Implementation::ProcessEvents() {
         const auto* change = reinterpret_cast<const xcb_property_notify_event_t*>(event.get());
         const auto* end = reinterpret_cast<const xcb_destroy_notify_event_t*>(event.get());
         moved |= type == XCB_PROPERTY_NOTIFY && change->atom == activeWindow;
+        // At the end of a window a window manager may tell nothing at all.
         ended |= type == XCB_DESTROY_NOTIFY && end->window == last;
     }
     if (!moved && !ended)
         return;
     const auto now = Foreground();
-    // Between two windows a window manager may tell of no window at all for a moment; at the end of a window
-    // it may tell nothing at all.
-    if ((now == XCB_WINDOW_NONE && !ended) || std::exchange(last, now) == now)
+    if (std::exchange(last, now) == now)
         return;
     if (now != XCB_WINDOW_NONE)
         WatchForItsEnd(now);

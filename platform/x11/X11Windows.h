@@ -25,7 +25,7 @@ class X11Windows {
     [[nodiscard]] Rectangle ClientArea(WindowId window) const;
     [[nodiscard]] bool IsUnder(WindowId window, Point point) const;
 
-    /// `changed` is called from ProcessEvents, once for each move of the focus to another window.
+    /// `changed` is called from ProcessEvents, once for each move of the focus to another window or to none.
     [[nodiscard]] RegistrationHandle OnFocusChange(std::function<void()> changed);
     /// Readable when ProcessEvents has work; -1 without a server.
     [[nodiscard]] int Descriptor() const;
