@@ -58,7 +58,8 @@ class Desktop:
             path.mkdir(parents=True, exist_ok=True)
             path.chmod(0o700)
             os.environ[name] = str(path)
-        for name in ('QT_QPA_PLATFORM', 'QT_SCALE_FACTOR', 'WAYLAND_DISPLAY', 'XAUTHORITY', 'SESSION_MANAGER'):
+        for name in ('QT_QPA_PLATFORM', 'QT_SCALE_FACTOR', 'WAYLAND_DISPLAY', 'XDG_SESSION_TYPE', 'XAUTHORITY',
+                     'SESSION_MANAGER'):
             os.environ.pop(name, None)
         os.environ['QT_LINUX_ACCESSIBILITY_ALWAYS_ON'] = '1'
         # Where nobody listens: a service that the program starts by itself would outlast the story.

@@ -3,7 +3,7 @@
 # Everything ends with the command.
 if [ -z "$ONDRILO_PRIVATE_DESKTOP" ]; then
     export ONDRILO_PRIVATE_DESKTOP=1
-    unset WAYLAND_DISPLAY QT_QPA_PLATFORM
+    unset WAYLAND_DISPLAY XDG_SESSION_TYPE QT_QPA_PLATFORM
     exec xvfb-run -a -s "-screen 0 1280x900x24" dbus-run-session -- "$0" "$@"
 fi
 openbox >/dev/null 2>&1 &
