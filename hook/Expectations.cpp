@@ -13,13 +13,13 @@ void Expectations::Add(std::uint8_t keycode, bool isPress, std::int32_t meaning)
 std::optional<std::int32_t> Expectations::Take(std::uint8_t keycode, bool isPress) {
     const std::lock_guard lock(mutex);
     ForgetOld();
-    const auto found = std::ranges::find_if(
-        expected, [&](const Expected& key) { return key.keycode == keycode && key.isPress == isPress; });
-    if (found == expected.end())
+    // A press of the person's may be read when the next release and press of the same key by us are told
+    // already: what comes first must be what was told first.
+    const auto found = std::ranges::find(expected, keycode, &Expected::keycode);
+    if (found == expected.end() || found->isPress != isPress)
         return std::nullopt;
     const auto meaning = found->meaning;
-    // Ours come back in the order in which they went: what was told earlier will never come.
-    expected.erase(expected.begin(), found + 1);
+    expected.erase(found);
     return meaning;
 }
 
