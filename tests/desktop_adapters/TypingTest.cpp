@@ -144,6 +144,22 @@ TEST_F(Typing, AShiftThatThePersonHoldsIsLiftedAndPutBack) {
     ExpectWritten("aéBBC"_w);
 }
 
+TEST_F(Typing, AKeyThatThePersonHoldsStaysTheirsAndIsNotLostWhereWeNeedItToo) {
+    ASSERT_TRUE(hasFocus);
+    X11KeyOutput keys;
+    server.PersonPresses(ServerKeyboard::kA);
+    Type(keys, "ab");
+    server.PersonReleases(ServerKeyboard::kA);
+    server.PersonPresses(ServerKeyboard::kShift);
+    keys.KeyDown(vk::Shift);
+    Type(keys, "c");
+    keys.KeyUp(vk::Shift);
+    EXPECT_EQ(server.Down(), std::vector<int>{ServerKeyboard::kShift});
+    server.PersonTaps(ServerKeyboard::kB);
+    server.PersonReleases(ServerKeyboard::kShift);
+    ExpectWritten("aabCB");
+}
+
 TEST_F(Typing, ThePersonsKeysAndOursMayAlternate) {
     ASSERT_TRUE(hasFocus);
     X11KeyOutput keys;
@@ -171,7 +187,7 @@ TEST_F(Typing, TheNumericPadWritesDigitsWhateverNumLockSays) {
 
 TEST_F(Typing, KeysAreToldWithTheModifiersThatTheLayoutAsksFor) {
     using Row = std::tuple<TextView, TextView, std::optional<LayoutKey>>;
-    X11KeyOutput keys;
+    X11KeyOutput keys(X11KeyOutput::Lending::WhenAsked);
     for (const auto& [layout, c, told] : {Row{"us", "a", {{'A', kNoShift}}},
                                           {"us", "~", {{192, kShift}}},
                                           {"us", "ç"_w, std::nullopt},
