@@ -9,6 +9,8 @@ namespace ondrilo {
 namespace {
 
 constexpr std::chrono::milliseconds kBetweenMoves{100};
+/// So long after we gave the keyboard back a record of the time before may still come in.
+constexpr std::chrono::milliseconds kLateRecords{200};
 
 std::optional<Message> MessageOf(std::uint8_t button, bool isPress) {
     switch (button) {
@@ -130,7 +132,7 @@ void Hook::Handle(const InputEvent& event) {
 void Hook::HandleKey(const InputEvent& event) {
     const Keycode keycode = event.detail;
     const bool isPress = event.type == XCB_KEY_PRESS;
-    const unsigned state = event.hasState ? event.state : lastState;
+    const unsigned state = event.hasState || !IsRecordLate() ? event.state : lastState;
     const bool isRepeat = isPress && down[keycode];
     down[keycode] = isPress;
     lastState = reader.StateAfter(keycode, isPress, state);
@@ -152,8 +154,10 @@ void Hook::Press(Keycode keycode, unsigned state, const KeyReader::Reading& read
     if (isSpecial && reader.IsCommand(state))
         return;
     // The completion that the key may bring about must find the way to the program free.
-    if (isSpecial)
+    if (isSpecial) {
         swallower.GiveKeyboardBack();
+        keyboardBack = std::chrono::steady_clock::now();
+    }
     const auto keyData = KeyDataOf(keycode, false, isRepeat);
     for (const int code : reading.codes)
         Send(Message::UM_KEY_DOWN, code, keyData);
@@ -168,6 +172,10 @@ void Hook::Release(Keycode keycode) {
     const auto codes = std::exchange(reported[keycode], {});
     const auto keyData = KeyDataOf(keycode, true, false);
     std::for_each(codes.rbegin(), codes.rend(), [&](int code) { Send(Message::UM_KEY_UP, code, keyData); });
+}
+
+bool Hook::IsRecordLate() const {
+    return std::chrono::steady_clock::now() - keyboardBack < kLateRecords;
 }
 
 bool Hook::IsSpecial(const std::vector<int>& codes) const {

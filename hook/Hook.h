@@ -45,6 +45,7 @@ class Hook {
     void HandleKey(const InputEvent& event);
     void Press(Keycode keycode, unsigned state, const KeyReader::Reading& reading, bool isRepeat);
     void Release(Keycode keycode);
+    [[nodiscard]] bool IsRecordLate() const;
     [[nodiscard]] bool IsSpecial(const std::vector<int>& codes) const;
     void HandleButton(std::uint8_t button, bool isPress, Point position);
     void HandleMove(Point position);
@@ -74,6 +75,7 @@ class Hook {
     std::array<std::vector<int>, 256> reported; ///< of each key that is down, the virtual keys
     std::bitset<4> reportedButtons;
     unsigned lastState = 0;
+    std::chrono::steady_clock::time_point keyboardBack;
     std::chrono::steady_clock::time_point lastMove;
     std::thread thread;
 };

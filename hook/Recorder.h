@@ -12,9 +12,9 @@ namespace ondrilo {
 struct InputEvent {
     std::uint8_t type = 0;   ///< XCB_KEY_PRESS to XCB_MOTION_NOTIFY
     std::uint8_t detail = 0; ///< keycode or button
-    /// The core protocol's modifiers, buttons and layout before the event; nothing is known of it for an
-    /// event that came while the server held the keyboard back.
-    std::uint16_t state = 0;
+    std::uint16_t state = 0; ///< the core protocol's modifiers, buttons and layout before the event
+    /// False for an event that came while the server held the keyboard back; and for one without modifiers
+    /// while the pointer is in the screen's first corner, which looks the same.
     bool hasState = true;
     Point position; ///< of the pointer, in the server's pixels
 };

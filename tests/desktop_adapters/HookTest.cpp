@@ -45,6 +45,7 @@ class AHook : public testing::Test {
             told += " -" + std::to_string(event.first);
             break;
         case Message::UM_CHAR:
+            written += static_cast<char>(event.first);
             told += " " + (event.first < ' ' ? std::to_string(event.first) : Text{char(event.first)});
             break;
         case Message::UM_POINTER_MOVED:
@@ -84,6 +85,7 @@ class AHook : public testing::Test {
     X11KeyOutput keys;
     WindowId target = 0;
     Text told;
+    Text written; ///< the characters told
     bool isReady = false;
 };
 
@@ -136,6 +138,7 @@ TEST_F(AHook, ASwallowedKeyIsToldAndNothingThatIsTypedWhileItIsHeldGetsLost) {
     keys.KeyUp(kVirtualF11);
     EXPECT_TRUE(Eventually([&] { return told.ends_with("+16 +122 -122 -16 +122 -122"); })) << ToUtf8(told);
     ExpectReached(ToUtf8(typed));
+    EXPECT_EQ(ToUtf8(written), ToUtf8(typed));
     hook.TerminateHook();
     told.clear();
     server.PersonTaps(kF11);
