@@ -2,7 +2,6 @@
 
 #include <xkbcommon/xkbcommon-x11.h>
 
-#include <utility>
 // The header names a field with a word of C++.
 #define explicit explicit_
 #include <xcb/xkb.h>
@@ -52,11 +51,15 @@ unsigned KeyboardWatch::Layout() {
     return layout;
 }
 
-bool KeyboardWatch::HasNewKeymap(const std::function<bool(Keycode)>& isOurs) {
+std::shared_ptr<xkb_keymap> KeyboardWatch::NewKeymap(const std::function<bool(Keycode)>& isOurs) {
     for (unsigned keycode = 0; keycode < changed.size(); ++keycode)
         isWholeMapNew |= changed[keycode] && !isOurs(static_cast<Keycode>(keycode));
     changed.reset();
-    return std::exchange(isWholeMapNew, false);
+    if (!isWholeMapNew)
+        return nullptr;
+    auto keymap = ReadKeymap();
+    isWholeMapNew = !keymap; // it fails where the map changes while it is read
+    return keymap;
 }
 
 void KeyboardWatch::Notice(const xcb_generic_event_t& event) {

@@ -30,14 +30,14 @@ class KeyboardWatch {
     [[nodiscard]] KeyboardState Look();
     /// The layout in effect, from 0.
     [[nodiscard]] unsigned Layout();
-    /// True once after the keys' symbols have changed; a change of a keycode that `isOurs` does not count.
-    [[nodiscard]] bool HasNewKeymap(const std::function<bool(Keycode)>& isOurs);
-    /// Nothing if the server does not answer.
-    [[nodiscard]] std::shared_ptr<xkb_keymap> ReadKeymap() const;
+    /// The symbols of all keys, if they have changed since the last answer; a change of a keycode that
+    /// `isOurs` does not count.
+    [[nodiscard]] std::shared_ptr<xkb_keymap> NewKeymap(const std::function<bool(Keycode)>& isOurs);
 
   private:
     void Listen() const;
     void Notice(const xcb_generic_event_t& event);
+    [[nodiscard]] std::shared_ptr<xkb_keymap> ReadKeymap() const;
 
     const X11Connection& connection;
     std::unique_ptr<xkb_context, void (*)(xkb_context*)> context;

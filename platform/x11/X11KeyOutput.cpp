@@ -95,11 +95,10 @@ X11KeyOutput::Implementation::~Implementation() {
 
 const KeyboardMap& X11KeyOutput::Implementation::Map() {
     const unsigned layout = watch.Layout();
-    const bool isNew = watch.HasNewKeymap([this](Keycode keycode) { return spares.IsLent(keycode); });
-    if (isNew)
-        if (const auto read = watch.ReadKeymap())
-            keymap = read;
-    if (keymap && (isNew || !map || map->Layout() != layout)) {
+    const auto read = watch.NewKeymap([this](Keycode keycode) { return spares.IsLent(keycode); });
+    if (read)
+        keymap = read;
+    if (keymap && (read || !map || map->Layout() != layout)) {
         map.emplace(keymap, layout);
         spares.Attach();
         while (lending == Lending::AtOnce && LendNext()) {
