@@ -1,5 +1,7 @@
 #include "platform/qt/AccessibilityConnection.h"
 
+#include <QDBusArgument>
+#include <QDBusObjectPath>
 #include <QDBusVariant>
 #include <QThread>
 
@@ -12,6 +14,8 @@ constexpr auto kProperties = "org.freedesktop.DBus.Properties";
 constexpr auto kBus = "org.freedesktop.DBus";
 constexpr auto kBusPath = "/org/freedesktop/DBus";
 constexpr auto kObjectEvent = "org.a11y.atspi.Event.Object";
+constexpr auto kProgramPath = "/org/a11y/atspi/accessible/root";
+constexpr auto kNothingPath = "/org/a11y/atspi/null";
 
 constexpr auto kStartPatience = std::chrono::seconds(30); ///< with a bus that is only being started
 constexpr qsizetype kLongestPath = 1000;
@@ -126,15 +130,41 @@ AccessibilityConnection::Question AccessibilityConnection::Ask(const AccessibleO
                 std::move(answer));
 }
 
+AccessibilityConnection::Question
+AccessibilityConnection::AskProperty(const AccessibleObject& object, const char* interface,
+                                     const char* property, std::function<void(const QVariant&)> answer) {
+    return Ask(object, kProperties, "Get", {interface, property}, "v",
+               [answer = std::move(answer)](const QVariantList& told) {
+                   answer(told.isEmpty() ? QVariant() : told[0].value<QDBusVariant>().variant());
+               });
+}
+
 AccessibilityConnection::Question AccessibilityConnection::AskNumber(const AccessibleObject& object,
                                                                      const char* interface,
                                                                      const char* property,
                                                                      std::function<void(int)> answer) {
-    return Ask(object, kProperties, "Get", {interface, property}, "v",
-               [answer = std::move(answer)](const QVariantList& told) {
-                   const auto number = told.isEmpty() ? QVariant() : told[0].value<QDBusVariant>().variant();
-                   answer(number.typeId() == QMetaType::Int ? number.toInt() : -1);
-               });
+    return AskProperty(object, interface, property, [answer = std::move(answer)](const QVariant& number) {
+        answer(number.typeId() == QMetaType::Int ? number.toInt() : -1);
+    });
+}
+
+AccessibilityConnection::Question
+AccessibilityConnection::AskParent(const AccessibleObject& object,
+                                   std::function<void(const AccessibleObject&)> answer) {
+    return AskProperty(object, kAccessible, "Parent",
+                       [parent = AccessibleObject{object.program, {}},
+                        answer = std::move(answer)](const QVariant& told) mutable {
+                           const auto reference = told.value<QDBusArgument>();
+                           if (reference.currentSignature() == "(so)") {
+                               QString program; // a good one names itself
+                               QDBusObjectPath path;
+                               reference.beginStructure();
+                               reference >> program >> path;
+                               if (path.path() != kProgramPath && path.path() != kNothingPath)
+                                   parent.path = path.path();
+                           }
+                           answer(parent);
+                       });
 }
 
 AccessibilityConnection::Question

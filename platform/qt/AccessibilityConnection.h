@@ -50,6 +50,9 @@ class AccessibilityConnection : public QObject {
     /// A number that the object keeps; nothing or a negative one if it has none.
     [[nodiscard]] Question AskNumber(const AccessibleObject& object, const char* interface,
                                      const char* property, std::function<void(int)> answer);
+    /// The object around it; with an empty path if there is none but the program itself.
+    [[nodiscard]] Question AskParent(const AccessibleObject& object,
+                                     std::function<void(const AccessibleObject&)> answer);
     /// The process behind a name on the bus; 0 if nobody knows.
     [[nodiscard]] Question AskProcess(const QString& program, std::function<void(std::uint32_t)> answer);
 
@@ -67,6 +70,9 @@ class AccessibilityConnection : public QObject {
   private:
     Question Send(const QDBusConnection& bus, const QDBusMessage& message, const char* answerForm,
                   Answer answer);
+    /// `answer` gets no value if there is none.
+    [[nodiscard]] Question AskProperty(const AccessibleObject& object, const char* interface,
+                                       const char* property, std::function<void(const QVariant&)> answer);
     void InBackground(std::function<void()> connect, std::function<void()> connected);
     void FindBus();
     void Connect(const QString& where);

@@ -3,6 +3,7 @@
 #include "platform/qt/AccessibleCaret.h"
 #include "platform/qt/AccessibleParagraph.h"
 #include "platform/qt/AccessiblePrograms.h"
+#include "platform/x11/X11Windows.h"
 
 namespace ondrilo {
 
@@ -11,13 +12,17 @@ class AccessibleBus::Watch {
   public:
     void Follow(std::uint32_t process);
     [[nodiscard]] const AccessibleFocus* Focus() const;
+    [[nodiscard]] Rectangle ClientArea() const;
     void FocusOrCaretChanged(std::uint32_t process);
 
     std::uint32_t followed = 0;
     AccessiblePrograms programs{[this](std::uint32_t process) {
         FocusOrCaretChanged(process);
     }};
-    AccessibleCaret caret{programs.Connection()};
+    X11Windows windows;
+    AccessibleCaret caret{programs.Connection(), [this] {
+                              return ClientArea();
+                          }};
     AccessibleParagraph paragraph{programs.Connection(), [this] {
                                       return Focus();
                                   }};
@@ -33,6 +38,11 @@ void AccessibleBus::Watch::Follow(std::uint32_t process) {
 
 const AccessibleFocus* AccessibleBus::Watch::Focus() const {
     return followed == 0 ? nullptr : programs.FocusOf(followed);
+}
+
+Rectangle AccessibleBus::Watch::ClientArea() const {
+    const auto window = windows.ForegroundWindow();
+    return windows.ProcessOf(window) == followed ? windows.ClientArea(window) : Rectangle();
 }
 
 void AccessibleBus::Watch::FocusOrCaretChanged(std::uint32_t process) {

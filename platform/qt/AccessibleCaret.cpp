@@ -3,13 +3,18 @@
 #include "platform/qt/NativePixels.h"
 
 #include <QDBusArgument>
+#include <QGuiApplication>
+#include <QScreen>
 
+#include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 namespace ondrilo {
 namespace {
 
 constexpr unsigned kOnScreen = 0; ///< how coordinates are to be counted
+constexpr int kDeepest = 50;      ///< objects around one another
 
 std::optional<Rectangle> AreaOf(const QVariantList& answer) {
     if (answer.size() == 4)
@@ -31,6 +36,25 @@ bool IsCredible(const Rectangle& area) {
     };
     return isNear(area.x) && isNear(area.y) && isNear(area.width) && isNear(area.height) && area.width >= 0 &&
            area.height > 0;
+}
+
+bool HasScaledScreen() {
+    const auto screens = QGuiApplication::screens();
+    return std::any_of(screens.begin(), screens.end(),
+                       [](const QScreen* screen) { return screen->devicePixelRatio() != 1; });
+}
+
+/// On a scaled screen some toolkits count in the pixels of the server and others in larger ones, as we do;
+/// the width of the program's window tells which. Of the latter, some let each screen keep its corner, as we
+/// do, and others count from the corner of the first screen.
+Point ToOurPixels(Point told, int toldWidth, Rectangle nativeWindow) {
+    const auto window = FromNative(nativeWindow);
+    if (std::abs(toldWidth - nativeWindow.width) <= std::abs(toldWidth - window.width))
+        return FromNative(told);
+    if (window.Contains(told))
+        return told;
+    const double factor = static_cast<double>(nativeWindow.width) / window.width;
+    return FromNative(Point{static_cast<int>(told.x * factor), static_cast<int>(told.y * factor)});
 }
 
 } // namespace
@@ -88,8 +112,8 @@ void AccessibleCaret::AskForLength() {
 }
 
 void AccessibleCaret::AskForCharacter() {
-    AskForArea(AccessibilityConnection::kText, "GetCharacterExtents", {*asked.caret, kOnScreen}, "iiii",
-               [this](const std::optional<Rectangle>& character) {
+    AskForArea(asked.object, AccessibilityConnection::kText, "GetCharacterExtents", {*asked.caret, kOnScreen},
+               "iiii", [this](const std::optional<Rectangle>& character) {
                    if (character)
                        Tell({character->x, character->y});
                    else
@@ -100,8 +124,8 @@ void AccessibleCaret::AskForCharacter() {
 void AccessibleCaret::AskForCharacterBefore() {
     if (*asked.caret <= 0)
         return AskForObject(std::nullopt);
-    AskForArea(AccessibilityConnection::kText, "GetCharacterExtents", {*asked.caret - 1, kOnScreen}, "iiii",
-               [this](const std::optional<Rectangle>& character) {
+    AskForArea(asked.object, AccessibilityConnection::kText, "GetCharacterExtents",
+               {*asked.caret - 1, kOnScreen}, "iiii", [this](const std::optional<Rectangle>& character) {
                    // A line break has no width.
                    if (character && character->width > 0)
                        Tell({character->x + character->width, character->y});
@@ -111,7 +135,7 @@ void AccessibleCaret::AskForCharacterBefore() {
 }
 
 void AccessibleCaret::AskForObject(const std::optional<Rectangle>& lineAbove) {
-    AskForArea(AccessibilityConnection::kComponent, "GetExtents", {kOnScreen}, "(iiii)",
+    AskForArea(asked.object, AccessibilityConnection::kComponent, "GetExtents", {kOnScreen}, "(iiii)",
                [this, lineAbove](const std::optional<Rectangle>& object) {
                    if (!object)
                        Tell({});
@@ -120,9 +144,9 @@ void AccessibleCaret::AskForObject(const std::optional<Rectangle>& lineAbove) {
                });
 }
 
-void AccessibleCaret::AskForArea(const char* interface, const char* method, const QVariantList& arguments,
-                                 const char* form, Found found) {
-    question = connection.Ask(asked.object, interface, method, arguments, form,
+void AccessibleCaret::AskForArea(const AccessibleObject& object, const char* interface, const char* method,
+                                 const QVariantList& arguments, const char* form, Found found) {
+    question = connection.Ask(object, interface, method, arguments, form,
                               [this, found = std::move(found)](const QVariantList& answer) {
                                   const auto area = AreaOf(answer);
                                   if (IsStillThere())
@@ -137,8 +161,33 @@ bool AccessibleCaret::IsStillThere() {
     return !question;
 }
 
-void AccessibleCaret::Tell(Point native) {
-    position = native == Point{} ? native : FromNative(native);
+void AccessibleCaret::Tell(Point told) {
+    if (told == Point{} || !HasScaledScreen())
+        position = told;
+    else if (known.object == asked.object)
+        AskForWindowArea(told);
+    else
+        AskForWindowAround(asked.object, told, 0);
+}
+
+void AccessibleCaret::AskForWindowAround(const AccessibleObject& object, Point told, int depth) {
+    question = connection.AskParent(object, [this, object, told, depth](const AccessibleObject& parent) {
+        if (!IsStillThere())
+            return;
+        if (!parent.path.isEmpty() && depth < kDeepest)
+            return AskForWindowAround(parent, told, depth + 1);
+        known = {asked.object, object};
+        AskForWindowArea(told);
+    });
+}
+
+void AccessibleCaret::AskForWindowArea(Point told) {
+    AskForArea(known.window, AccessibilityConnection::kComponent, "GetExtents", {kOnScreen}, "(iiii)",
+               [this, told](const std::optional<Rectangle>& window) {
+                   const auto native = clientArea();
+                   if (window && native.width > 0)
+                       position = ToOurPixels(told, window->width, native);
+               });
 }
 
 } // namespace ondrilo

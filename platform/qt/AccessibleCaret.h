@@ -8,7 +8,10 @@ namespace ondrilo {
 /// Where the caret of another program is on the screen.
 class AccessibleCaret {
   public:
-    explicit AccessibleCaret(AccessibilityConnection& connection) : connection(connection) {}
+    /// `clientArea` tells where the program's window is, in the pixels of the server; empty if it is not in
+    /// front.
+    AccessibleCaret(AccessibilityConnection& connection, std::function<Rectangle()> clientArea)
+        : connection(connection), clientArea(std::move(clientArea)) {}
     /// The caret has moved. One question is under way at a time; when it is answered, only the latest move
     /// still counts.
     void Move(const AccessibleFocus& focus);
@@ -27,16 +30,23 @@ class AccessibleCaret {
     void AskForCharacter();
     void AskForCharacterBefore();
     void AskForObject(const std::optional<Rectangle>& lineAbove);
-    void AskForArea(const char* interface, const char* method, const QVariantList& arguments,
-                    const char* form, Found found);
+    void AskForArea(const AccessibleObject& object, const char* interface, const char* method,
+                    const QVariantList& arguments, const char* form, Found found);
     /// False if the caret has moved meanwhile, and then it is asked for anew.
     bool IsStillThere();
-    void Tell(Point native);
+    void Tell(Point told);
+    void AskForWindowAround(const AccessibleObject& object, Point told, int depth);
+    void AskForWindowArea(Point told);
 
     AccessibilityConnection& connection;
+    std::function<Rectangle()> clientArea;
     AccessibilityConnection::Question question;
     std::optional<AccessibleFocus> latest; ///< not asked about yet
     AccessibleFocus asked;                 ///< with its path empty if there is none
+    /// The window that holds an object.
+    struct {
+        AccessibleObject object, window;
+    } known;
     Point position;
 };
 

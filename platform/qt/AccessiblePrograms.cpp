@@ -89,12 +89,11 @@ void AccessiblePrograms::TakeCaret(const AccessibleObject& object, int offset) {
 }
 
 AccessiblePrograms::Program* AccessiblePrograms::Hear(const QString& name) {
-    const bool isNew = !programs.contains(name);
-    if (isNew)
+    if (!programs.contains(name))
         MakeRoom();
     auto& program = programs[name];
     program.heard = ++events;
-    if (isNew)
+    if (program.process == 0 && !program.processAsked)
         AskProcess(name, program);
     return IsOurs(program.process) ? nullptr : &program;
 }
@@ -111,6 +110,7 @@ void AccessiblePrograms::MakeRoom() {
 /// What was told meanwhile is looked into as soon as it is known not to be ourselves.
 void AccessiblePrograms::AskProcess(const QString& name, Program& program) {
     program.processAsked = connection.AskProcess(name, [this, &program](std::uint32_t process) {
+        program.processAsked.reset();
         program.process = process;
         if (process == 0 || IsOurs(process))
             return;
