@@ -78,7 +78,7 @@ void TargetController::StopFollowing() {
 void TargetController::OnFocusChange() {
     const auto foreground = desktop.ForegroundWindow();
     gaveFocusBack &= foreground == 0;
-    if (foreground == lastForegroundWindow || desktop.IsSameProgram(foreground, lastForegroundWindow))
+    if (IsStillThere(foreground))
         return;
     // Window managers pass through no window at all on the way from one to another.
     if (foreground != 0)
@@ -87,11 +87,16 @@ void TargetController::OnFocusChange() {
     countdowns.target.Restart();
 }
 
+/// Another window of the same program leaves the target what it is.
+bool TargetController::IsStillThere(WindowId foreground) const {
+    return foreground == lastForegroundWindow || desktop.IsSameProgram(foreground, lastForegroundWindow);
+}
+
 void TargetController::AttachForeground() {
     const auto foreground = desktop.ForegroundWindow();
     if (foreground == 0 && GiveFocusBack())
         return;
-    if (foreground != 0 && foreground == lastForegroundWindow && targets.Current())
+    if (targets.Current() && IsStillThere(foreground))
         return;
     lastForegroundWindow = foreground;
     AttachTarget();

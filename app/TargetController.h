@@ -34,6 +34,7 @@ class TargetController {
   private:
     void DressEditor();
     void OnFocusChange();
+    [[nodiscard]] bool IsStillThere(WindowId foreground) const;
     bool GiveFocusBack();
     void AttachTarget();
     void AttachInternal();
