@@ -66,6 +66,7 @@ void TargetController::ApplyOptions() {
 void TargetController::StartFollowing() {
     targets.Detach();
     lastForegroundWindow = 0;
+    lastProcess = 0;
     specialKeys.MapSpecialKeys();
     focusHook = desktop.OnFocusChange([this] { OnFocusChange(); });
 }
@@ -81,15 +82,17 @@ void TargetController::OnFocusChange() {
     if (IsStillThere(foreground))
         return;
     // Window managers pass through no window at all on the way from one to another.
-    if (foreground != 0)
+    if (foreground != 0 || !IsStillThere(lastForegroundWindow))
         targets.Detach();
     preview.HidePreview();
     countdowns.target.Restart();
 }
 
-/// Another window of the same program leaves the target what it is.
+/// Another window of the same program leaves the target what it is. The same number may be another window:
+/// what a program leaves behind at its end, the next one gets.
 bool TargetController::IsStillThere(WindowId foreground) const {
-    return foreground == lastForegroundWindow || desktop.IsSameProgram(foreground, lastForegroundWindow);
+    const auto process = desktop.ProcessOf(foreground);
+    return process == lastProcess && (process != 0 || foreground == lastForegroundWindow);
 }
 
 void TargetController::AttachForeground() {
@@ -99,6 +102,7 @@ void TargetController::AttachForeground() {
     if (targets.Current() && IsStillThere(foreground))
         return;
     lastForegroundWindow = foreground;
+    lastProcess = desktop.ProcessOf(foreground);
     AttachTarget();
 }
 
@@ -106,7 +110,7 @@ void TargetController::AttachForeground() {
 /// writes next would be lost. The window that they wrote in gets it back, or else our editor.
 bool TargetController::GiveFocusBack() {
     const bool isElsewhere =
-        desktop.ProcessOf(lastForegroundWindow) != 0 && !desktop.IsOurs(lastForegroundWindow);
+        lastProcess != 0 && IsStillThere(lastForegroundWindow) && !desktop.IsOurs(lastForegroundWindow);
     const bool hasEditor = targets.Internal() && frame.State() != WindowState::Minimized;
     if (std::exchange(gaveFocusBack, isElsewhere || hasEditor) || !gaveFocusBack)
         return false;

@@ -56,7 +56,8 @@ class TargetController {
     Countdowns& countdowns;
     EventWriter& events;
     WindowId lastForegroundWindow = 0;
-    bool gaveFocusBack = false; ///< since somebody last had it
+    std::uint32_t lastProcess = 0; ///< that it belonged to
+    bool gaveFocusBack = false;    ///< since somebody last had it
     RegistrationHandle focusHook;
 };
 

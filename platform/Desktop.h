@@ -28,9 +28,7 @@ class Desktop {
     /// Title in Windows-1252, cut at `limit` bytes.
     [[nodiscard]] virtual Text TitleOf(WindowId window, std::size_t limit = 1000) const = 0;
     [[nodiscard]] virtual bool IsOurs(WindowId window) const = 0;
-    /// True if both windows belong to the same running program; a window that is gone belongs to none.
-    [[nodiscard]] virtual bool IsSameProgram(WindowId first, WindowId second) const = 0;
-    /// The process that the window belongs to; 0 if that cannot be told.
+    /// The process that the window belongs to; 0 if that cannot be told, and for a window that is gone.
     [[nodiscard]] virtual std::uint32_t ProcessOf(WindowId window) const = 0;
     /// The window's content on the screen, without decorations.
     [[nodiscard]] virtual Rectangle ClientArea(WindowId window) const = 0;

@@ -64,7 +64,18 @@ void AccessibleParagraph::Begin() {
     if (!text || text->kind != AccessibleFocus::Kind::Other)
         return Drop();
     object = text->object;
-    AskForOffset();
+    AskForSelection();
+}
+
+/// The next letter replaces what is selected, and with it the paragraph that stands there now.
+void AccessibleParagraph::AskForSelection() {
+    question = connection.Ask(object, AccessibilityConnection::kText, "GetNSelections", {}, "i",
+                              [this](const QVariantList& selections) {
+                                  if (!selections.isEmpty() && selections[0].toInt() > 0)
+                                      Drop();
+                                  else
+                                      AskForOffset();
+                              });
 }
 
 void AccessibleParagraph::AskForOffset() {

@@ -23,6 +23,7 @@ class AccessibleParagraph {
 
   private:
     void Begin();
+    void AskForSelection();
     void AskForOffset();
     void AskForLength();
     void AskForText(int from, int to, std::function<void(const QString&)> told);

@@ -20,10 +20,6 @@ Text QtDesktop::TitleOf(WindowId window, std::size_t limit) const {
     return windows.TitleOf(window, limit);
 }
 
-bool QtDesktop::IsSameProgram(WindowId first, WindowId second) const {
-    return windows.IsSameProgram(first, second);
-}
-
 Rectangle QtDesktop::ClientArea(WindowId window) const {
     return FromNative(windows.ClientArea(window));
 }

@@ -18,7 +18,6 @@ class QtDesktop : public Desktop {
     void Activate(WindowId window) override { windows.Activate(window); }
     [[nodiscard]] Text TitleOf(WindowId window, std::size_t limit = 1000) const override;
     [[nodiscard]] bool IsOurs(WindowId window) const override { return windows.IsOurs(window); }
-    [[nodiscard]] bool IsSameProgram(WindowId first, WindowId second) const override;
     [[nodiscard]] std::uint32_t ProcessOf(WindowId window) const override {
         return windows.ProcessOf(window);
     }

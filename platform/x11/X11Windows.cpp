@@ -221,11 +221,6 @@ bool X11Windows::IsOurs(WindowId window) const {
     return process != 0 && process == implementation->ourProcess;
 }
 
-bool X11Windows::IsSameProgram(WindowId first, WindowId second) const {
-    const auto process = implementation->ProcessOfWindow(WindowOf(first));
-    return process != 0 && process == implementation->ProcessOfWindow(WindowOf(second));
-}
-
 std::uint32_t X11Windows::ProcessOf(WindowId window) const {
     return implementation->ProcessOfWindow(WindowOf(window));
 }

@@ -18,7 +18,6 @@ class X11Windows {
     void Activate(WindowId window);
     [[nodiscard]] Text TitleOf(WindowId window, std::size_t limit) const;
     [[nodiscard]] bool IsOurs(WindowId window) const;
-    [[nodiscard]] bool IsSameProgram(WindowId first, WindowId second) const;
 
     [[nodiscard]] std::uint32_t ProcessOf(WindowId window) const;
     /// These two in the pixels of the server.

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QTimer>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cstdlib>
 
@@ -42,11 +43,11 @@ TEST_F(TheDesktop, WindowsAreKnownByTitleAndProgram) {
     EXPECT_EQ(desktop.TitleOf(own, 3), "Olá"_w);
     EXPECT_TRUE(desktop.IsOurs(own));
     EXPECT_FALSE(desktop.IsOurs(theirs));
-    EXPECT_TRUE(desktop.IsSameProgram(theirs, theirs));
-    EXPECT_FALSE(desktop.IsSameProgram(theirs, own));
+    EXPECT_EQ(desktop.ProcessOf(own), static_cast<std::uint32_t>(getpid()));
+    EXPECT_NE(desktop.ProcessOf(theirs), desktop.ProcessOf(own));
+    EXPECT_NE(desktop.ProcessOf(theirs), 0U);
     terminal.reset();
-    EXPECT_TRUE(Eventually([&] { return !desktop.IsSameProgram(theirs, theirs); }))
-        << "a window that is gone";
+    EXPECT_TRUE(Eventually([&] { return desktop.ProcessOf(theirs) == 0; })) << "a window that is gone";
     EXPECT_EQ(desktop.TitleOf(theirs), "");
 }
 

@@ -18,11 +18,6 @@ class FakeDesktop : public Desktop {
         return title == titles.end() ? Text() : title->second.substr(0, limit);
     }
     [[nodiscard]] bool IsOurs(WindowId window) const override { return ours.contains(window); }
-    [[nodiscard]] bool IsSameProgram(WindowId first, WindowId second) const override {
-        const auto one = programs.find(first);
-        const auto other = programs.find(second);
-        return one != programs.end() && other != programs.end() && one->second == other->second;
-    }
     [[nodiscard]] std::uint32_t ProcessOf(WindowId window) const override {
         const auto program = programs.find(window);
         return program == programs.end() ? 0 : static_cast<std::uint32_t>(program->second);

@@ -4,6 +4,8 @@
 if [ -z "$ONDRILO_PRIVATE_DESKTOP" ]; then
     export ONDRILO_PRIVATE_DESKTOP=1
     unset WAYLAND_DISPLAY XDG_SESSION_TYPE QT_QPA_PLATFORM
+    # What is set on the desktop of a test must not be kept in the settings of whoever runs it.
+    export GSETTINGS_BACKEND=memory
     exec xvfb-run -a -s "-screen 0 1280x900x24" dbus-run-session -- "$0" "$@"
 fi
 openbox >/dev/null 2>&1 &
