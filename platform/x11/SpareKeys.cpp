@@ -1,5 +1,7 @@
 #include "platform/x11/SpareKeys.h"
 
+#include "platform/x11/VirtualKeys.h"
+#include "targets/CKeyboard.h"
 #include "text/CaseFolding.h"
 
 #include <xkbcommon/xkbcommon.h>
@@ -60,6 +62,14 @@ bool SpareKeys::LendNext(const std::function<bool(char32_t)>& canWrite) {
     return false;
 }
 
+std::optional<LayoutKey> SpareKeys::KeyOf(char c) {
+    constexpr TextView kAccents = "`´^~"_w;
+    const bool isOneKey = TypedCharacters({&c, 1}).size() == 1 && kAccents.find(c) == TextView::npos;
+    if (static_cast<unsigned char>(c) < ' ' || !isOneKey)
+        return std::nullopt;
+    return LayoutKey{kUnknownKey, IsPlain(c) ? kNoShift : kShift};
+}
+
 std::optional<KeyStroke> SpareKeys::StrokeOf(char c) {
     const Pair pair = PairOf(c);
     auto* spare = Find(pair);
@@ -72,8 +82,7 @@ std::optional<KeyStroke> SpareKeys::StrokeOf(char c) {
         Lend(*spare, pair);
     }
     spare->lastUse = std::chrono::steady_clock::now();
-    const bool isPlain = SymbolOf(c) == pair.plain;
-    return KeyStroke{spare->keycode, isPlain ? 0 : KeyboardMap::kShiftBit};
+    return KeyStroke{spare->keycode, IsPlain(c) ? 0 : KeyboardMap::kShiftBit};
 }
 
 bool SpareKeys::Settle(Keycode keycode) const {
@@ -97,6 +106,10 @@ void SpareKeys::Detach() {
     spares.clear();
     xcb_delete_property(connection.Get(), connection.Root(), record);
     connection.Synchronize();
+}
+
+bool SpareKeys::IsPlain(char c) {
+    return SymbolOf(c) == PairOf(c).plain;
 }
 
 SpareKeys::Pair SpareKeys::PairOf(char c) {

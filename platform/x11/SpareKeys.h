@@ -30,6 +30,9 @@ class SpareKeys {
     /// Lends a keycode to the next of the Portuguese letters and signs that `canWrite` does not know; false
     /// if there is none left to lend.
     bool LendNext(const std::function<bool(char32_t)>& canWrite);
+    /// The key that counts for a character which the layout lacks: one of no known place, with Shift for the
+    /// second of its pair. None for what counts as an accent and a letter, and for the accents themselves.
+    [[nodiscard]] static std::optional<LayoutKey> KeyOf(char c);
     /// The stroke for a character, newly lent where necessary.
     [[nodiscard]] std::optional<KeyStroke> StrokeOf(char c);
     /// Waits, where the keycode has been lent only just, until programs can have noticed; false if there was
@@ -52,6 +55,7 @@ class SpareKeys {
         std::chrono::steady_clock::time_point lastUse;
     };
     static Pair PairOf(char c);
+    static bool IsPlain(char c);
     [[nodiscard]] std::vector<Spare> ReadLent() const;
     [[nodiscard]] Keycodes KeycodesWithModifiers() const;
     Spare* Find(const Pair& pair);

@@ -311,7 +311,8 @@ bool X11KeyOutput::IsAvailable() const {
 std::optional<LayoutKey> X11KeyOutput::KeyOf(char c) const {
     if (!IsAvailable())
         return std::nullopt;
-    return implementation->Map().KeyOf(c);
+    const auto key = implementation->Map().KeyOf(c);
+    return key ? key : SpareKeys::KeyOf(c);
 }
 
 void X11KeyOutput::OnAnnounce(Announce announce) {

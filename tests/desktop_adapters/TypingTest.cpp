@@ -2,6 +2,7 @@
 #include "platform/qt/QtConversion.h"
 #include "platform/qt/QtDesktop.h"
 #include "platform/qt/QtQueuePump.h"
+#include "platform/x11/VirtualKeys.h"
 #include "platform/x11/X11KeyOutput.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -190,7 +191,8 @@ TEST_F(Typing, KeysAreToldWithTheModifiersThatTheLayoutAsksFor) {
     X11KeyOutput keys(X11KeyOutput::Lending::WhenAsked);
     for (const auto& [layout, c, told] : {Row{"us", "a", {{'A', kNoShift}}},
                                           {"us", "~", {{192, kShift}}},
-                                          {"us", "ç"_w, std::nullopt},
+                                          {"us", "´"_w, std::nullopt},
+                                          {"us", "Ç"_w, {{kUnknownKey, kShift}}}, // lent
                                           {"pt", "A", {{'A', kShift}}},
                                           {"pt", "@", {{'2', kControl | kAlt}}},
                                           {"pt", "~", {{191, kNoShift}}},
