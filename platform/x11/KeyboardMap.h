@@ -43,6 +43,8 @@ class KeyboardMap {
     /// The modifier bits that a key sets while it is held; 0 for all others.
     [[nodiscard]] unsigned ModifiersOf(Keycode keycode) const { return modifiers[keycode]; }
     [[nodiscard]] bool IsModifier(Keycode keycode) const { return isModifier[keycode]; }
+    /// A key of a letter, a digit, a sign or the blank.
+    [[nodiscard]] bool Writes(Keycode keycode) const { return codeOfWritingKey.contains(keycode); }
     /// A key that sets these bits; nothing if none does.
     [[nodiscard]] std::optional<Keycode> ModifierKey(unsigned bits) const;
 

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <thread>
+#include <utility>
 // The header names a field with a word of C++.
 #define explicit explicit_
 #include <xcb/xkb.h>
@@ -20,6 +21,8 @@ namespace {
 
 constexpr std::chrono::milliseconds kFreshness{1};
 constexpr int kCharactersPerLook = 4;
+/// Between a key that writes and one that steers.
+constexpr std::chrono::milliseconds kBetweenKinds{10};
 
 } // namespace
 
@@ -58,6 +61,7 @@ class X11KeyOutput::Implementation {
     void LiftPersonsModifiers();
     void PutBackPersonsModifiers();
     [[nodiscard]] bool HoldsWritingKey() const;
+    void Pace(bool steers);
 
     KeyGuardian guardian;
     PersonsKeys person{connection};
@@ -74,6 +78,7 @@ class X11KeyOutput::Implementation {
     std::vector<Keycode> released; ///< not yet sent
     std::vector<Keycode> lifted;
     std::chrono::steady_clock::time_point lastTyped;
+    bool steered = false; ///< the last key moved or deleted, instead of writing
 };
 
 X11KeyOutput::Implementation::Implementation(Lending lending) : lending(lending) {
@@ -241,11 +246,19 @@ std::optional<KeyStroke> X11KeyOutput::Implementation::StrokeOf(char c) {
     return stroke || static_cast<unsigned char>(c) < ' ' ? stroke : spares.StrokeOf(c);
 }
 
+/// Some programs gather the letters that wait for them, but carry out at once what steers: of "a", Enter and
+/// "b" in a burst LibreOffice makes "ab" and the line's end.
+void X11KeyOutput::Implementation::Pace(bool steers) {
+    if (std::exchange(steered, steers) != steers)
+        std::this_thread::sleep_until(lastTyped + kBetweenKinds);
+}
+
 void X11KeyOutput::Implementation::Type(char c) {
-    LookInBurst();
     const auto stroke = StrokeOf(c);
     if (!stroke)
         return;
+    Pace(static_cast<unsigned char>(c) < ' ');
+    LookInBurst();
     if (spares.Settle(stroke->keycode))
         Look();
     LiftPersonsModifiers();
@@ -270,6 +283,8 @@ void X11KeyOutput::Implementation::Down(int code) {
     if (current.IsModifier(stroke->keycode)) {
         Press(stroke->keycode);
     } else {
+        const bool isCommand = (HeldModifiers() & ~KeyboardMap::kShiftBit) != 0;
+        Pace(isCommand || !current.Writes(stroke->keycode));
         LiftPersonsModifiers();
         PressStroke(*stroke);
         lastTyped = std::chrono::steady_clock::now();
