@@ -28,9 +28,14 @@ std::optional<Message> MessageOf(std::uint8_t button, bool isPress) {
 } // namespace
 
 Hook::Hook(WindowId target, HookReceiver receiver, void* context)
-    : receiver(receiver), context(context), watcher(target), wakeUp(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
-    if (wakeUp >= 0 && recorder.IsRecording() && watcher.IsAvailable() && swallower.IsAvailable())
-        thread = std::thread([this] { Run(); });
+    : receiver(receiver), context(context), wakeUp(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
+    if (wakeUp >= 0 && recorder.IsRecording())
+        thread = std::thread([this, target] {
+            watcher.emplace(target);
+            reader.emplace();
+            swallower.emplace();
+            Run();
+        });
 }
 
 Hook::~Hook() {
@@ -70,13 +75,13 @@ void Hook::Run() {
         FollowFocus();
         recorder.Read(
             [this] {
-                reader.ForgetMap();
+                reader->ForgetMap();
                 areSwallowedKeysStale = true;
             },
             [this](const InputEvent& event) { Handle(event); });
         UpdateSwallowedKeys();
         // Last, since the answers that the others wait for bring events with them.
-        swallower.ProcessEvents([this](Point point) { return watcher.IsAt(point); });
+        swallower->ProcessEvents([this](Point point) { return watcher->IsAt(point); });
         Wait();
     }
 }
@@ -85,8 +90,8 @@ void Hook::Wait() {
     pollfd sources[] = {{wakeUp, POLLIN, 0},
                         {recorder.Descriptor(), POLLIN, 0},
                         {recorder.BellDescriptor(), POLLIN, 0},
-                        {watcher.Descriptor(), POLLIN, 0},
-                        {swallower.Descriptor(), POLLIN, 0}};
+                        {watcher->Descriptor(), POLLIN, 0},
+                        {swallower->Descriptor(), POLLIN, 0}};
     poll(sources, std::size(sources), -1);
 }
 
@@ -97,23 +102,23 @@ void Hook::TakeOrders() {
     const std::lock_guard lock(mutex);
     areSwallowedKeysStale |= orders.specialKeys != given.specialKeys;
     orders = given;
-    swallower.SwallowButtons(orders.swallowsButtons);
+    swallower->SwallowButtons(orders.swallowsButtons);
 }
 
 void Hook::FollowFocus() {
-    watcher.ProcessEvents();
-    if (watcher.IsActive() == wasActive)
+    watcher->ProcessEvents();
+    if (watcher->IsActive() == wasActive)
         return;
-    wasActive = watcher.IsActive();
+    wasActive = watcher->IsActive();
     areSwallowedKeysStale = true;
-    reader.ForgetDeadKey();
+    reader->ForgetDeadKey();
 }
 
 void Hook::UpdateSwallowedKeys() {
     if (!areSwallowedKeysStale)
         return;
     areSwallowedKeysStale = false;
-    swallower.SwallowKeys(wasActive ? reader.ChordsOf(orders.specialKeys) : std::set<KeyChord>{});
+    swallower->SwallowKeys(wasActive ? reader->ChordsOf(orders.specialKeys) : std::set<KeyChord>{});
 }
 
 void Hook::Handle(const InputEvent& event) {
@@ -135,7 +140,7 @@ void Hook::HandleKey(const InputEvent& event) {
     const unsigned state = event.hasState || !IsRecordLate() ? event.state : lastState;
     const bool isRepeat = isPress && down[keycode];
     down[keycode] = isPress;
-    lastState = reader.StateAfter(keycode, isPress, state);
+    lastState = reader->StateAfter(keycode, isPress, state);
     const auto meaning = expectations.Take(keycode, isPress);
     if (meaning == kHookSilence)
         return;
@@ -144,18 +149,18 @@ void Hook::HandleKey(const InputEvent& event) {
     if (!wasActive)
         return;
     Press(keycode, state,
-          meaning ? reader.ReadOurs(keycode, state, static_cast<char>(*meaning))
-                  : reader.ReadPress(keycode, state),
+          meaning ? reader->ReadOurs(keycode, state, static_cast<char>(*meaning))
+                  : reader->ReadPress(keycode, state),
           isRepeat);
 }
 
 void Hook::Press(Keycode keycode, unsigned state, const KeyReader::Reading& reading, bool isRepeat) {
     const bool isSpecial = IsSpecial(reading.codes);
-    if (isSpecial && reader.IsCommand(state))
+    if (isSpecial && reader->IsCommand(state))
         return;
     // The completion that the key may bring about must find the way to the program free.
     if (isSpecial) {
-        swallower.GiveKeyboardBack();
+        swallower->GiveKeyboardBack();
         keyboardBack = std::chrono::steady_clock::now();
     }
     const auto keyData = KeyDataOf(keycode, false, isRepeat);
@@ -186,7 +191,7 @@ void Hook::HandleButton(std::uint8_t button, bool isPress, Point position) {
     const auto message = MessageOf(button, isPress);
     if (!message)
         return;
-    const bool isReported = isPress ? watcher.IsAt(position) : reportedButtons[button];
+    const bool isReported = isPress ? watcher->IsAt(position) : reportedButtons[button];
     reportedButtons[button] = isPress && isReported;
     if (isReported)
         Send(*message);
@@ -197,7 +202,7 @@ void Hook::HandleMove(Point position) {
     if (now - lastMove < kBetweenMoves)
         return;
     lastMove = now;
-    if (watcher.IsAt(position))
+    if (watcher->IsAt(position))
         Send(Message::UM_POINTER_MOVED, 0, (position.x & 0xFF) | (position.y & 0xFF) << 16);
 }
 

@@ -13,6 +13,7 @@
 #include <bitset>
 #include <chrono>
 #include <mutex>
+#include <optional>
 #include <thread>
 
 namespace ondrilo {
@@ -54,9 +55,11 @@ class Hook {
     const HookReceiver receiver;
     void* const context;
     Recorder recorder;
-    Watcher watcher;
-    KeyReader reader;
-    Swallower swallower;
+    // Made by the thread itself: connecting takes a while, for which nobody else must wait. What is recorded
+    // meanwhile waits, too.
+    std::optional<Watcher> watcher;
+    std::optional<KeyReader> reader;
+    std::optional<Swallower> swallower;
 
     /// What the other thread asks for.
     struct Orders {

@@ -13,8 +13,6 @@ namespace ondrilo {
 /// own: what it holds is free when the connection ends, however that comes about.
 class Swallower {
   public:
-    [[nodiscard]] bool IsAvailable() const { return connection.IsOpen(); }
-
     /// From now on just these. What another program has for itself stays with it.
     void SwallowKeys(std::set<KeyChord> chords);
     [[nodiscard]] bool Swallows(KeyChord chord) const { return keys.contains(chord); }

@@ -10,8 +10,6 @@ class Watcher {
   public:
     explicit Watcher(WindowId target);
 
-    /// False if the window's program cannot be told.
-    [[nodiscard]] bool IsAvailable() const { return process != 0; }
     /// Whether a window of the program has the focus, as of the last ProcessEvents.
     [[nodiscard]] bool IsActive() const { return isActive; }
     /// Whether that point of the screen shows a window of the program.
