@@ -132,8 +132,6 @@ void TargetController::AttachTarget() {
         AttachInternal();
     else if (lastForegroundWindow != 0)
         AttachExternal(lastForegroundWindow);
-    else
-        targets.Detach();
     // Nobody would tell of the letter that ends it, and the key itself writes nowhere now.
     if (!targets.Current())
         sender.ReleaseShift();
@@ -142,6 +140,8 @@ void TargetController::AttachTarget() {
 }
 
 void TargetController::AttachInternal() {
+    // First: there is one watch at a time, and with the former target's the new one's would end.
+    targets.Detach();
     targets.UseInternal();
     if (!targets.Internal())
         return;
@@ -160,8 +160,6 @@ void TargetController::AttachExternal(WindowId window) {
                                             }});
     if (target->Create())
         targets.UseExternal(std::move(target));
-    else
-        targets.Detach();
 }
 
 } // namespace ondrilo

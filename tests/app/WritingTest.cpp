@@ -244,6 +244,11 @@ TEST_F(RunningSystem, WritesInAnotherProgramAsInTheEditor) {
     desktop.MoveFocus(7);
     Tick(6);
     EXPECT_EQ(view->TextTargets().Current(), target) << "a window manager passed through no window";
+    desktop.programs[9] = 300;
+    desktop.MoveFocus(0);
+    desktop.foreground = 9;
+    Tick(6);
+    EXPECT_EQ(otherProgram.watched, 9U) << "the timer was quicker than the news of the focus";
     desktop.MoveFocus(1);
     EXPECT_EQ(otherProgram.watched, 0U) << "its keys are free again";
 }
