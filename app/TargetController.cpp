@@ -66,7 +66,9 @@ void TargetController::ApplyOptions() {
 void TargetController::StartFollowing() {
     targets.Detach();
     lastForegroundWindow = 0;
+    recentWindow = 0;
     lastProcess = 0;
+    gaveFocusBack = false;
     specialKeys.MapSpecialKeys();
     focusHook = desktop.OnFocusChange([this] { OnFocusChange(); });
 }
@@ -79,10 +81,12 @@ void TargetController::StopFollowing() {
 void TargetController::OnFocusChange() {
     const auto foreground = desktop.ForegroundWindow();
     gaveFocusBack &= foreground == 0;
-    if (IsStillThere(foreground))
+    if (IsStillThere(foreground)) {
+        recentWindow = foreground;
         return;
+    }
     // Window managers pass through no window at all on the way from one to another.
-    if (foreground != 0 || !IsStillThere(lastForegroundWindow))
+    if (foreground != 0 || RemainingWindow() == 0)
         targets.Detach();
     preview.HidePreview();
     countdowns.target.Restart();
@@ -95,6 +99,15 @@ bool TargetController::IsStillThere(WindowId foreground) const {
     return process == lastProcess && (process != 0 || foreground == lastForegroundWindow);
 }
 
+/// Of the program written in, the window that last had the focus, or else the one that was attached; 0 if
+/// both are gone.
+WindowId TargetController::RemainingWindow() const {
+    for (const auto window : {recentWindow, lastForegroundWindow})
+        if (window != 0 && IsStillThere(window))
+            return window;
+    return 0;
+}
+
 void TargetController::AttachForeground() {
     const auto foreground = desktop.ForegroundWindow();
     if (foreground == 0 && GiveFocusBack())
@@ -102,6 +115,7 @@ void TargetController::AttachForeground() {
     if (targets.Current() && IsStillThere(foreground))
         return;
     lastForegroundWindow = foreground;
+    recentWindow = foreground;
     lastProcess = desktop.ProcessOf(foreground);
     AttachTarget();
 }
@@ -109,13 +123,13 @@ void TargetController::AttachForeground() {
 /// Nobody has the focus, as after a click on the bare desktop or at the end of a program, and what the person
 /// writes next would be lost. The window that they wrote in gets it back, or else our editor.
 bool TargetController::GiveFocusBack() {
-    const bool isElsewhere =
-        lastProcess != 0 && IsStillThere(lastForegroundWindow) && !desktop.IsOurs(lastForegroundWindow);
+    const auto window = RemainingWindow();
+    const bool isElsewhere = lastProcess != 0 && window != 0 && !desktop.IsOurs(window);
     const bool hasEditor = targets.Internal() && frame.State() != WindowState::Minimized;
     if (std::exchange(gaveFocusBack, isElsewhere || hasEditor) || !gaveFocusBack)
         return false;
     if (isElsewhere)
-        desktop.Activate(lastForegroundWindow);
+        desktop.Activate(window);
     else
         frame.Activate();
     countdowns.target.Restart();
@@ -128,6 +142,8 @@ void TargetController::OnExposed() {
 }
 
 void TargetController::AttachTarget() {
+    // First: there is one watch at a time, and with the former target's the new one's would end.
+    targets.Detach();
     if (desktop.IsOurs(lastForegroundWindow))
         AttachInternal();
     else if (lastForegroundWindow != 0)
@@ -140,8 +156,6 @@ void TargetController::AttachTarget() {
 }
 
 void TargetController::AttachInternal() {
-    // First: there is one watch at a time, and with the former target's the new one's would end.
-    targets.Detach();
     targets.UseInternal();
     if (!targets.Internal())
         return;

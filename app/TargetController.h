@@ -35,6 +35,7 @@ class TargetController {
     void DressEditor();
     void OnFocusChange();
     [[nodiscard]] bool IsStillThere(WindowId foreground) const;
+    [[nodiscard]] WindowId RemainingWindow() const;
     bool GiveFocusBack();
     void AttachTarget();
     void AttachInternal();
@@ -56,6 +57,7 @@ class TargetController {
     Countdowns& countdowns;
     EventWriter& events;
     WindowId lastForegroundWindow = 0;
+    WindowId recentWindow = 0;     ///< of the same program, that last had the focus
     std::uint32_t lastProcess = 0; ///< that it belonged to
     bool gaveFocusBack = false;    ///< since somebody last had it
     RegistrationHandle focusHook;

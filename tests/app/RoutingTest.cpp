@@ -111,6 +111,12 @@ TEST_F(RunningSystem, TheFocusSettlesBeforeTheTargetChanges) {
     desktop.MoveFocus(0);
     Tick(6);
     EXPECT_EQ(desktop.foreground, 7U) << "a click on the bare desktop would end the writing";
+    desktop.programs[8] = desktop.programs[7];
+    desktop.MoveFocus(8);
+    desktop.MoveFocus(0);
+    Tick(6);
+    EXPECT_EQ(desktop.foreground, 8U) << "of two windows of a program, the text belongs in the latter";
+    desktop.programs.erase(8);
     desktop.programs.erase(7);
     desktop.MoveFocus(0);
     journal.Take();
