@@ -21,7 +21,7 @@ bool Watcher::IsAt(Point point) const {
         const auto reply = Owned(xcb_translate_coordinates_reply(queries.Get(), cookie, nullptr));
         below = reply ? reply->child : xcb_window_t{XCB_WINDOW_NONE};
     }
-    return windows.ProcessOf(shown) == process;
+    return process != 0 && windows.ProcessOf(shown) == process;
 }
 
 } // namespace ondrilo

@@ -33,10 +33,12 @@ CGenericWordProcessor::CGenericWordProcessor(WindowId targetWindow, CKeyboard& k
 }
 
 bool CGenericWordProcessor::Create() {
-    if (!hook.InitializeHook(targetWindow, [this](const MessageEvent& event) { OnEvent(event); }))
+    const auto process = desktop.ProcessOf(targetWindow);
+    if (process == 0 ||
+        !hook.InitializeHook(targetWindow, [this](const MessageEvent& event) { OnEvent(event); }))
         return false;
     focusHook = desktop.OnFocusChange([this] { OnFocusChange(); });
-    accessible.Follow(desktop.ProcessOf(targetWindow));
+    accessible.Follow(process);
     AskForText();
     return true;
 }
