@@ -50,9 +50,7 @@ int Run(const std::filesystem::path& dataFolder, QtDesktop& desktop, QtMessageBo
     QtTimerService timers(clock);
     X11KeyOutput keys(X11KeyOutput::Lending::WhenAsked);
     QtTargetHook targetHook;
-    keys.OnAnnounce([&targetHook](Keycode keycode, bool isPress, std::int32_t meaning) {
-        targetHook.Expect(keycode, isPress, meaning);
-    });
+    keys.OnAnnounce(QtTargetHook::Expect);
     AccessibleBus accessibleText;
     CanberraSoundPlayer sounds([] { QApplication::beep(); });
     PosixProgramStarter programs;

@@ -21,7 +21,7 @@ class QtTargetHook : public QObject, public TargetHook {
     /// with the next event.
     void DrainInbox();
     /// What a key means that we are about to send; see ExpectKey of the library.
-    void Expect(std::uint8_t keycode, bool isPress, std::int32_t meaning);
+    static void Expect(std::uint8_t keycode, bool isPress, std::int32_t meaning);
 
     [[nodiscard]] bool InitializeHook(WindowId target, Receiver receiver) override;
     void TerminateHook() override;

@@ -257,12 +257,13 @@ void X11KeyOutput::Implementation::Type(char c) {
     const auto stroke = StrokeOf(c);
     if (!stroke)
         return;
-    Pace(static_cast<unsigned char>(c) < ' ');
+    const bool steers = static_cast<unsigned char>(c) < ' ';
+    Pace(steers);
     LookInBurst();
     if (spares.Settle(stroke->keycode))
         Look();
     LiftPersonsModifiers();
-    PressStroke(*stroke, c);
+    PressStroke(*stroke, steers ? std::nullopt : std::optional(c)); // Enter and Tab are what they are
     Release(stroke->keycode);
     if (!HoldsWritingKey())
         PutBackPersonsModifiers();

@@ -26,9 +26,7 @@ class AHook : public testing::Test {
         target = WaitForWindow(desktop, "watched");
         isReady = Eventually([this] { return std::filesystem::exists(file); }) &&
                   GiveFocus(desktop, target) && Watch();
-        keys.OnAnnounce([this](Keycode keycode, bool isPress, std::int32_t meaning) {
-            hook.Expect(keycode, isPress, meaning);
-        });
+        keys.OnAnnounce(QtTargetHook::Expect);
     }
     ~AHook() override { EXPECT_EQ(server.Down(), std::vector<int>{}) << "a key stayed down"; }
 
@@ -112,13 +110,15 @@ TEST_F(AHook, TellsOurLettersAsTheStrokesThatTheyCountForAndNothingOfModifiersTh
     keys.TypeCharacter('e');
     keys.TypeCharacter("é"_w.front());
     ExpectTold(" +69 e -69 +186 +69 é -69 -186"_w);
+    keys.TypeCharacter('\n');
+    ExpectTold(" +13 13 -13");
     server.PersonPresses(ServerKeyboard::kShift);
     keys.TypeCharacter("ã"_w.front());
     ExpectTold(" +16 +191 +65 ã -65 -191"_w);
     server.PersonTaps(ServerKeyboard::kA);
     server.PersonReleases(ServerKeyboard::kShift);
     ExpectTold(" +65 A -65 -16");
-    ExpectReached("eéãA");
+    ExpectReached("eé\rãA");
 }
 
 TEST_F(AHook, ASwallowedKeyIsToldAndNothingThatIsTypedWhileItIsHeldGetsLost) {
