@@ -29,6 +29,7 @@ class AccessibleBus::Watch {
 };
 
 void AccessibleBus::Watch::Follow(std::uint32_t process) {
+    windows.ProcessEvents(); // nobody needs them here, but the server keeps what is not fetched
     followed = process;
     paragraph.Drop();
     caret.Forget();
