@@ -180,7 +180,8 @@ void X11Windows::Implementation::ProcessEvents() {
     if (!moved && !ended)
         return;
     const auto now = Foreground();
-    if (std::exchange(last, now) == now)
+    // A window that has ended may have left its number to the next one.
+    if (std::exchange(last, now) == now && !ended)
         return;
     if (now != XCB_WINDOW_NONE)
         WatchForItsEnd(now);
