@@ -9,12 +9,12 @@ as_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
 }
 
-# Installs the packages that are missing; needs the network only if there are any.
+# install_packages [LIST]: installs the packages of the list that are missing; needs the network only if there are any.
 install_packages() {
     local missing=() package
     while read -r package; do
         dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
-    done < <(sed -e 's/#.*//' -e '/^[[:space:]]*$/d' packages.txt)
+    done < <(sed -e 's/#.*//' -e '/^[[:space:]]*$/d' "${1:-packages.txt}")
     [ ${#missing[@]} -eq 0 ] && return 0
     say "Installing ${missing[*]}"
     as_root apt-get update -qq

@@ -10,8 +10,9 @@ import shutil
 import signal
 import time
 
-from desktop import Failure, Program, wait_for
-from story import expect, play, prepare_data, set_option
+from desktop import Program, wait_for
+from other_programs import Xterm
+from story import expect, play, prepare_data, set_option, use_words
 
 KEYBOARD = """LINHA Palavras
 GRUPO Palavras
@@ -45,42 +46,6 @@ TECLA TECLA_NORMAL Guiao guião FOLDER/faz;;;isto.sh
 TECLA TECLA_NORMAL Programa programa Prova.desktop
 """
 BACK = 'LINHA Volta\nGRUPO Volta\nTECLA TECLA_NORMAL Volta volta Comandos.tec\n'
-WORDS = {'pato': 9, 'pêra': 8, 'porta': 7, 'prato': 6}
-
-
-class Terminal:
-    """A real program beside ours."""
-
-    TITLE = 'Terminal'
-
-    def __init__(self, desktop):
-        self.desktop = desktop
-        self.file = desktop.folder / 'recebido'
-        reader = "stty raw -echo; printf '\\033[?1004h'; exec cat >>%s" % self.file
-        desktop.start(['env', 'LC_ALL=C.UTF-8', 'xterm', '-u8', '-geometry', '60x5-0-0', '-T', self.TITLE, '-e',
-                       'sh', '-c', reader])
-        wait_for(self.file.exists, 'the terminal')
-        self.window = desktop.xdotool('search', '--sync', '--name', '^%s$' % self.TITLE).split()[0]
-        self.focus()
-
-    def focus(self):
-        """Brings it to the front, and forgets what it has got until then."""
-        self.desktop.xdotool('windowactivate', '--sync', self.window)
-        self.file.write_bytes(b'')
-        wait_for(self.gets_an_a, 'a key in the terminal, without a modifier')
-        self.desktop.press('Return')  # comes after all that is still on its way
-        wait_for(lambda: self.file.read_bytes().endswith(b'\r'), 'the end of the keys')
-        self.file.write_bytes(b'')
-
-    def gets_an_a(self):
-        self.desktop.press('a')
-        return self.file.read_bytes().endswith(b'a')
-
-    def expect(self, text):
-        try:
-            wait_for(lambda: self.file.read_bytes() == text, '', 5)
-        except Failure:
-            raise Failure('the terminal got %r, not %r' % (self.file.read_bytes(), text)) from None
 
 
 def prepare(desktop):
@@ -93,10 +58,9 @@ def prepare(desktop):
         '[Desktop Entry]\nType=Application\nName=Prova\nExec=sh -c "echo programa >>%s"\n' % proof)
     (desktop.data / 'Comandos.tec').write_text(KEYBOARD.replace('FOLDER', str(desktop.folder)), 'cp1252')
     (desktop.data / 'outro.tec').write_text(BACK, 'cp1252')
-    (desktop.data / 'geral.pal').write_text(''.join('%s %d\n' % pair for pair in WORDS.items()), 'cp1252')
-    for name in ('geral.par', 'geral.frs', 'geral.paf'):
-        (desktop.data / name).write_text('')
+    use_words(desktop, 'pato 9\npêra 8\nporta 7\nprato 6\n')
     set_option(desktop, 'NOME_TECLADO', 'Comandos')
+    set_option(desktop, 'TECLA_EXPANSAO_ABREVIATURAS', 'Num9')  # "Tab" is to be written
     for file in desktop.data.glob('generico.*'):
         shutil.copy(file, desktop.data / ('ana' + file.suffix))
     with (desktop.data / 'utils').open('a') as profiles:
@@ -144,11 +108,11 @@ def beside_another_program(desktop, ondrilo, proof):
     for key in ('a', 'p', 'a'):
         ondrilo.click(key)
     ondrilo.expect_text('apa')
-    terminal = Terminal(desktop)
+    terminal = Xterm(desktop, setting=Xterm.REPORTS_FOCUS)
 
     def click(name, button=1):
         ondrilo.click(name, button)
-        expect(desktop.active_title() == Terminal.TITLE, 'a click on "%s" took the focus' % name)
+        expect(terminal.is_active(), 'a click on "%s" took the focus' % name)
 
     for button in (1, 2, 3):
         click('inactiva', button)
@@ -157,14 +121,14 @@ def beside_another_program(desktop, ondrilo, proof):
     click('mal')
     click('limpar')
     click('sequência')
-    terminal.expect(b'\x01\x03\raB\t\x1b[D')
+    terminal.expect_bytes(b'\x01\x03\raB\t\x1b[D')
     click('enviar')
-    terminal.expect(b'\x01\x03\raB\t\x1b[Dapa')
+    terminal.expect_bytes(b'\x01\x03\raB\t\x1b[Dapa')
     click('guião')
     wait_for(lambda: proof.exists() and proof.read_text() == 'guião\n', 'the script')
     click('programa')
     wait_for(lambda: proof.read_text() == 'guião\nprograma\n', 'the application')
-    terminal.expect(b'\x01\x03\raB\t\x1b[Dapa')
+    terminal.expect_bytes(b'\x01\x03\raB\t\x1b[Dapa')
     ondrilo.expect_text('apa')
     click('ana')
     click('mal')
@@ -186,6 +150,7 @@ def story(desktop, program):
         code = ondrilo.process.wait(10)
         expect(code == (-number if number == signal.SIGKILL else 0), 'the program ended with %d' % code)
         terminal.focus()
+        terminal.wait_until_it_writes()
         ondrilo = Program(desktop, program)
 
     ondrilo.click('sair')

@@ -5,7 +5,7 @@ import subprocess
 
 from desktop import Program, wait_for
 from dialogs import Dialog, choose
-from story import expect, play, prepare_data
+from story import expect, play, prepare_data, use_words
 
 ORANGE = '#ffcc66'
 PASSWORD = '$Kalvimo7R$'
@@ -16,9 +16,7 @@ PREDICTION_COLOUR = 'Cor de Fundo 1  (Teclas de Predição)'
 
 def prepare(desktop):
     prepare_data(desktop)
-    (desktop.data / 'geral.pal').write_text('beber 3\nbola 5\nbom 4\n', 'cp1252')
-    for name in ('geral.par', 'geral.frs', 'geral.paf'):
-        (desktop.data / name).write_text('')
+    use_words(desktop, 'beber 3\nbola 5\nbom 4\n')
 
 
 def choose_options(ondrilo):

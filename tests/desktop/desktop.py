@@ -245,6 +245,7 @@ class Program:
     def quit(self, seconds=15.0):
         """Closes the window as a person does and waits for the end; returns the exit code."""
         window = self.desktop.xdotool('search', '--name', '^Ondrilo V3.0').split()[0]
-        self.desktop.xdotool('windowactivate', '--sync', window)
+        self.click_element(self.editor())  # elsewhere the window takes no focus
+        wait_for(lambda: self.desktop.active_window() == window, 'the focus in the editor')
         self.desktop.press('alt+F4')
         return self.process.wait(seconds)

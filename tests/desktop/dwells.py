@@ -4,15 +4,13 @@
 import time
 
 from desktop import Program, wait_for
-from story import expect, play, prepare_data, set_option
+from story import expect, play, prepare_data, set_option, use_words
 
 
 def story(desktop, program):
     prepare_data(desktop)
     # One word only, so that it stays on its key.
-    (desktop.data / 'geral.pal').write_text('olá 4\n', 'cp1252')
-    for name in ('geral.par', 'geral.frs', 'geral.paf'):
-        (desktop.data / name).write_text('')
+    use_words(desktop, 'olá 4\n')
     (desktop.data / 'generico.acs').write_text('TEMPO_PERMANENCIA 600\n')
     ondrilo = Program(desktop, program)
 

@@ -2,13 +2,12 @@
 """A program that is killed in the middle of a word has lost that word alone, and counts the others once."""
 
 from desktop import Program, wait_for
-from story import expect, play, prepare_data, set_option
+from story import expect, play, prepare_data, set_option, use_words
 
 
 def story(desktop, program):
     prepare_data(desktop)
-    for name in ('geral.pal', 'geral.par', 'geral.frs', 'geral.paf'):
-        (desktop.data / name).write_text('')
+    use_words(desktop)
     set_option(desktop, 'TEMPO_DE_PREDICAO', 200)
     journal = desktop.data / 'generico.jrn'
 

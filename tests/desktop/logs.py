@@ -8,7 +8,7 @@ from pathlib import Path
 
 from desktop import Program, wait_for
 from dialogs import choose
-from story import expect, play, prepare_data, set_option
+from story import expect, play, prepare_data, set_option, use_words
 
 OPTIONS = {'REGISTAR_EVENTOS': 1, 'TEMPO_DE_PREDICAO': 200, 'METODO_VARRIMENTO': 'Inverso', 'TECLA_MANIPULO1': 'F9',
            'LATENCIA_INTERRUPTORES_VARRIMENTO': 0, 'VELOCIDADE_VARRIMENTO': 10000, 'NOME_SINTETIZADOR_FALA': 'Nenhum'}
@@ -24,10 +24,7 @@ def events(path):
 
 def story(desktop, program):
     prepare_data(desktop)
-    (desktop.data / 'geral.pal').write_text('bem 4\ntudo 5\n', 'cp1252')
-    (desktop.data / 'geral.par').write_text('tudo bem 3\n', 'cp1252')
-    for name in ('geral.frs', 'geral.paf'):
-        (desktop.data / name).write_text('')
+    use_words(desktop, 'bem 4\ntudo 5\n', 'tudo bem 3\n')
     for key, value in OPTIONS.items():
         set_option(desktop, key, value)
     ondrilo = Program(desktop, program)

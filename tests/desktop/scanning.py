@@ -9,7 +9,7 @@ import subprocess
 import time
 
 from desktop import Program, wait_for
-from story import expect, play, prepare_data, set_option
+from story import expect, play, prepare_data, set_option, use_words
 
 KEYBOARD = """LINHA Palavras
 GRUPO Palavras
@@ -41,9 +41,7 @@ def prepare(desktop):
     prepare_data(desktop)
     (desktop.data / 'Manipulos.tec').write_text(KEYBOARD, 'cp1252')
     (desktop.data / 'outro.tec').write_text(ONLY_KEY, 'cp1252')
-    (desktop.data / 'geral.pal').write_text('olaria 4\n', 'cp1252')
-    for name in ('geral.par', 'geral.frs', 'geral.paf'):
-        (desktop.data / name).write_text('')
+    use_words(desktop, 'olaria 4\n')
     for key, value in {'NOME_TECLADO': 'Manipulos', 'METODO_VARRIMENTO': 'Passo-a-Passo', 'TECLA_MANIPULO1': 'F9',
                        'TECLA_MANIPULO2': 'Num6', 'VELOCIDADE_VARRIMENTO': 2000,
                        'NUMERO_MAXIMO_CICLOS_VARRIMENTO': 5}.items():

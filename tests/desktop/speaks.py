@@ -10,7 +10,7 @@ import signal
 import time
 
 from desktop import Program, wait_for
-from story import expect, play, prepare_data, set_option
+from story import expect, play, prepare_data, set_option, use_words
 
 RECORDER = """#!/bin/sh
 printf '%%s|%%s|%%s\\n' "$@" >>'%(folder)s/said'
@@ -117,8 +117,7 @@ def scans(desktop, program, speech):
 
 def story(desktop, program):
     prepare_data(desktop)
-    for name in ('geral.pal', 'geral.par', 'geral.frs', 'geral.paf'):
-        (desktop.data / name).write_text('')
+    use_words(desktop)
     for key in ('OUVIR_LETRAS', 'OUVIR_PALAVRAS', 'OUVIR_FRASES', 'OUVIR_COM_RATO_SOBRE'):
         set_option(desktop, key, 1)
     speech = Speech(desktop)

@@ -32,6 +32,12 @@ def set_option(desktop, key, value, profile='generico'):
     path.write_text('\n'.join(lines) + '\n', 'cp1252')
 
 
+def use_words(desktop, words='', pairs=''):
+    """The whole general vocabulary: each line a word, or two, and how often it is used."""
+    for ending, lines in {'pal': words, 'par': pairs, 'frs': '', 'paf': ''}.items():
+        (desktop.data / ('geral.' + ending)).write_text(lines, 'cp1252')
+
+
 def expect(condition, what):
     if not condition:
         raise Failure(what)

@@ -2,16 +2,13 @@
 """A person writes "Olá. Tudo bem" with clicks and keys, and chooses predicted words by click and hot key."""
 
 from desktop import Program, wait_for
-from story import expect, play, prepare_data, set_option
+from story import expect, play, prepare_data, set_option, use_words
 
 
 def story(desktop, program):
     prepare_data(desktop)
     # A vocabulary in which each beginning has one continuation only.
-    (desktop.data / 'geral.pal').write_text('bem 4\ntudo 5\n', 'cp1252')
-    (desktop.data / 'geral.par').write_text('tudo bem 3\n', 'cp1252')
-    for name in ('geral.frs', 'geral.paf'):
-        (desktop.data / name).write_text('')
+    use_words(desktop, 'bem 4\ntudo 5\n', 'tudo bem 3\n')
     set_option(desktop, 'TEMPO_DE_PREDICAO', 200)
 
     ondrilo = Program(desktop, program)
