@@ -217,8 +217,11 @@ void InputRouter::WordEnd() {
         speech.SpeakEndedWord();
     if (!events.IsOpen() || !targets.Current())
         return;
+    const auto word = targets.Current()->GetPreviousWord();
+    if (word.empty()) // its letters were written where nobody saw them
+        return;
     Count(Metric::Word);
-    events.Event("NEW_WORD", "WORD_" + targets.Current()->GetPreviousWord());
+    events.Event("NEW_WORD", "WORD_" + word);
 }
 
 void InputRouter::SentenceEnd() {

@@ -72,7 +72,8 @@ KeyReader::Reading KeyReader::ReadOurs(Keycode keycode, unsigned state, char mea
     if (!signs.character || MakeLower(*signs.character) != MakeLower(meaning))
         signs = {XKB_KEY_NoSymbol, meaning, ShiftOf(state)};
     ForgetDeadKey();
-    return {CodesOf(signs), {*signs.character}};
+    // Counted was what was asked for, whatever Caps Lock makes of it.
+    return {CodesOf({signs.symbol, meaning, signs.modifiers}), {*signs.character}};
 }
 
 std::vector<int> KeyReader::CodesOf(Keycode keycode, unsigned state) {

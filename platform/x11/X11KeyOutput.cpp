@@ -5,6 +5,7 @@
 #include "platform/x11/KeyboardWatch.h"
 #include "platform/x11/PersonsKeys.h"
 #include "platform/x11/SpareKeys.h"
+#include "text/CaseFolding.h"
 
 #include <xcb/xtest.h>
 
@@ -22,7 +23,7 @@ namespace {
 constexpr std::chrono::milliseconds kFreshness{1};
 constexpr int kCharactersPerLook = 4;
 /// Between a key that writes and one that steers.
-constexpr std::chrono::milliseconds kBetweenKinds{10};
+constexpr std::chrono::milliseconds kBetweenKinds{20};
 
 } // namespace
 
@@ -61,6 +62,7 @@ class X11KeyOutput::Implementation {
     void LiftPersonsModifiers();
     void PutBackPersonsModifiers();
     [[nodiscard]] bool HoldsWritingKey() const;
+    [[nodiscard]] std::optional<KeyStroke> StrokeOfCode(int code);
     void Pace(bool steers);
 
     KeyGuardian guardian;
@@ -241,7 +243,11 @@ bool X11KeyOutput::Implementation::HoldsWritingKey() const {
     return std::ranges::any_of(held, [this](Keycode keycode) { return !map->IsModifier(keycode); });
 }
 
+/// While we hold Shift, a letter goes out on the key of its capital: on some layouts its own key has another
+/// sign there.
 std::optional<KeyStroke> X11KeyOutput::Implementation::StrokeOf(char c) {
+    if ((HeldModifiers() & KeyboardMap::kShiftBit) != 0)
+        c = MakeUpper(c);
     const auto stroke = Map().StrokeOf(CodePointOf(c));
     return stroke || static_cast<unsigned char>(c) < ' ' ? stroke : spares.StrokeOf(c);
 }
@@ -271,13 +277,21 @@ void X11KeyOutput::Implementation::Type(char c) {
     lastTyped = std::chrono::steady_clock::now();
 }
 
+/// Alone, the key of a digit writes it, also where the layout wants Shift for that.
+std::optional<KeyStroke> X11KeyOutput::Implementation::StrokeOfCode(int code) {
+    if (code >= '0' && code <= '9' && HeldModifiers() == 0)
+        if (const auto stroke = map->StrokeOf(static_cast<char32_t>(code)))
+            return stroke;
+    return map->StrokeOfCode(code, (seen.locked & map->NumLockBit()) != 0);
+}
+
 void X11KeyOutput::Implementation::Down(int code) {
     Look();
     const KeyboardMap& current = Map();
     const auto isKnown = [code](const auto& entry) {
         return entry.first == code;
     };
-    const auto stroke = current.StrokeOfCode(code, (seen.locked & current.NumLockBit()) != 0);
+    const auto stroke = StrokeOfCode(code);
     if (!stroke || std::ranges::any_of(heldCodes, isKnown))
         return;
     heldCodes.emplace_back(code, stroke->keycode);
