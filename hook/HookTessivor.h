@@ -20,8 +20,8 @@ extern "C" {
 /// Called on the library's own thread.
 using HookReceiver = void (*)(void* context, std::uint32_t message, std::int32_t first, std::int32_t second);
 
-/// Begins to watch the program that the X window belongs to; false if that cannot be done, and then nothing
-/// stays behind. A former watch ends.
+/// Begins to watch the program that the X window belongs to; false if the server has no means for that, and
+/// then nothing stays behind. Of a window that is gone nothing is reported. A former watch ends.
 HOOK_TESSIVOR bool InitializeHook(std::uint32_t window, HookReceiver receiver, void* context);
 /// Ends the watch, gives every swallowed key and button free, and returns when no call will come any more.
 HOOK_TESSIVOR void TerminateHook();
