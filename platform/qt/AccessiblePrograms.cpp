@@ -121,7 +121,8 @@ void AccessiblePrograms::AskProcess(const QString& name, Program& program) {
 }
 
 void AccessiblePrograms::SetFocus(Program& program, AccessibleFocus focus) {
-    // A key that is swallowed takes the focus away for a moment, and what is typed then is no secret for that.
+    // A key that is swallowed takes the focus away for a moment, and what is typed then is no secret for
+    // that.
     if (focus.object == program.focus.object)
         focus.kind = program.focus.kind;
     program.focus = std::move(focus);

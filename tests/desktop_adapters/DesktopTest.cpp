@@ -8,9 +8,9 @@
 #include <QPushButton>
 #include <QTimer>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cstdlib>
+#include <unistd.h>
 
 namespace ondrilo {
 namespace {
