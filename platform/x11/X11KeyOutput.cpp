@@ -23,7 +23,7 @@ namespace {
 constexpr std::chrono::milliseconds kFreshness{1};
 constexpr int kCharactersPerLook = 4;
 /// Between a key that writes and one that steers.
-constexpr std::chrono::milliseconds kBetweenKinds{20};
+constexpr std::chrono::milliseconds kBetweenKinds{30};
 
 } // namespace
 
