@@ -33,7 +33,7 @@ class AccessibleText {
     /// Asks for the paragraph as it will be once program and caret have come to rest, some tens of
     /// milliseconds after the last call; each call takes the place of the one before. There is no answer from
     /// a program that does not tell, from a terminal, from a password field or while something is selected.
-    virtual void ReadParagraph(std::function<void(Paragraph)> /*answer*/) {}
+    virtual void ReadParagraph(const std::function<void(Paragraph)>& /*answer*/) {}
 };
 
 } // namespace ondrilo

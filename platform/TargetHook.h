@@ -18,7 +18,9 @@ class TargetHook {
     /// next one comes, so that a handler sees the text as it was then.
     using Receiver = std::function<void(const MessageEvent&)>;
     /// Begins to watch the program of that window; false if it cannot be watched.
-    [[nodiscard]] virtual bool InitializeHook(WindowId /*target*/, Receiver /*receiver*/) { return false; }
+    [[nodiscard]] virtual bool InitializeHook(WindowId /*target*/, const Receiver& /*receiver*/) {
+        return false;
+    }
     /// Nothing is received any more, and what was swallowed is free.
     virtual void TerminateHook() {}
 

@@ -75,8 +75,8 @@ bool AccessibleBus::IsPassword() const {
     return focus && (focus->kind == Kind::Awaited || focus->kind == Kind::Password);
 }
 
-void AccessibleBus::ReadParagraph(std::function<void(Paragraph)> answer) {
-    watch->paragraph.Read(std::move(answer));
+void AccessibleBus::ReadParagraph(const std::function<void(Paragraph)>& answer) {
+    watch->paragraph.Read(answer);
 }
 
 } // namespace ondrilo

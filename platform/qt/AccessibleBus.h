@@ -17,7 +17,7 @@ class AccessibleBus : public AccessibleText {
     void Follow(std::uint32_t process) override;
     [[nodiscard]] Point CaretPosition() const override;
     [[nodiscard]] bool IsPassword() const override;
-    void ReadParagraph(std::function<void(Paragraph)> answer) override;
+    void ReadParagraph(const std::function<void(Paragraph)>& answer) override;
 
   private:
     class Watch;

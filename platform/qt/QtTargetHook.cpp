@@ -42,11 +42,11 @@ void QtTargetHook::Expect(std::uint8_t keycode, bool isPress, std::int32_t meani
     ExpectKey(keycode, isPress, meaning);
 }
 
-bool QtTargetHook::InitializeHook(WindowId target, Receiver newReceiver) {
+bool QtTargetHook::InitializeHook(WindowId target, const Receiver& newReceiver) {
     TerminateHook();
     if (!::InitializeHook(static_cast<std::uint32_t>(target), PostToInbox, &inbox))
         return false;
-    receiver = std::move(newReceiver);
+    receiver = newReceiver;
     return true;
 }
 

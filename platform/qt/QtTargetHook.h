@@ -23,7 +23,7 @@ class QtTargetHook : public QObject, public TargetHook {
     /// What a key means that we are about to send; see ExpectKey of the library.
     static void Expect(std::uint8_t keycode, bool isPress, std::int32_t meaning);
 
-    [[nodiscard]] bool InitializeHook(WindowId target, Receiver receiver) override;
+    [[nodiscard]] bool InitializeHook(WindowId target, const Receiver& receiver) override;
     void TerminateHook() override;
     void AddSpecialKey(int code) override;
     void DeleteSpecialKey(int code) override;

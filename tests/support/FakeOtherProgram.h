@@ -12,11 +12,11 @@ namespace ondrilo {
 /// Another program with a text, and the hook and the accessible text through which it is seen.
 class FakeOtherProgram : public TargetHook, public AccessibleText, private TextSurfaceListener {
   public:
-    [[nodiscard]] bool InitializeHook(WindowId target, Receiver newReceiver) override {
+    [[nodiscard]] bool InitializeHook(WindowId target, const Receiver& newReceiver) override {
         if (refuses)
             return false;
         watched = target;
-        receiver = std::move(newReceiver);
+        receiver = newReceiver;
         surface.SetListener(this);
         return true;
     }
@@ -37,7 +37,7 @@ class FakeOtherProgram : public TargetHook, public AccessibleText, private TextS
     }
     [[nodiscard]] Point CaretPosition() const override { return surface.caret; }
     [[nodiscard]] bool IsPassword() const override { return isPassword; }
-    void ReadParagraph(std::function<void(Paragraph)> answer) override { question = std::move(answer); }
+    void ReadParagraph(const std::function<void(Paragraph)>& answer) override { question = answer; }
 
     void Press(int code) {
         surface.KeyDown(code);
