@@ -30,7 +30,8 @@ class Safe(OtherProgram):
 
     def click_field(self, number):
         """They share the height of the window."""
-        self.desktop.xdotool('mousemove', '--window', self.window, WIDTH // 2, HEIGHT * (2 * number + 1) // 4, 'click', 1)
+        place = WIDTH // 2, HEIGHT * (2 * number + 1) // 4
+        self.desktop.xdotool('mousemove', '--window', self.window, *place, 'click', 1)
 
     def fields(self):
         return (self.file.read_text() or '\n').split('\n')

@@ -10,7 +10,7 @@ import sys
 import time
 
 from desktop import Program, wait_for
-from other_programs import Mousepad, Xterm, attached, changes
+from other_programs import Mousepad, Xterm, attached, changes, click_keys
 from story import expect, play, prepare_data, set_option, use_words
 
 KEYBOARD = """LINHA Palavras
@@ -121,12 +121,9 @@ def slow(desktop, ondrilo):
         editor = Mousepad(desktop)
     editor.process.send_signal(signal.SIGSTOP)
     stopped = time.monotonic()
-    ondrilo.click('a')
-    ondrilo.click('b')
-    ondrilo.click('outro')
+    click_keys(ondrilo, 'a', 'b', 'outro')
     ondrilo.key('letras', 1)
-    ondrilo.click('letras')
-    ondrilo.click('c')
+    click_keys(ondrilo, 'letras', 'c')
     time.sleep(max(0, 2 - (time.monotonic() - stopped)))
     editor.process.send_signal(signal.SIGCONT)
     editor.expect_text('abc')

@@ -15,10 +15,22 @@ from story import expect
 WIDTH, HEIGHT = 1200, 380
 
 
+def log(desktop):
+    """What the newest log of the first profile holds by now."""
+    return max(desktop.data.glob('generico *.log'), key=lambda path: path.stat().st_mtime).read_text('cp1252')
+
+
 def changes(desktop):
     """The targets that the log tells of, in order: a window's title, or that of the internal editor."""
-    log = max(desktop.data.glob('generico *.log'), key=lambda path: path.stat().st_mtime)
-    return re.findall('WORD_PROCESSOR_CHANGE (\\S*)', log.read_text('cp1252'))
+    return re.findall('WORD_PROCESSOR_CHANGE (\\S*)', log(desktop))
+
+
+def click_keys(ondrilo, *names):
+    """One after the other has come: clicks that a slow window manager holds back go to where the pointer is then."""
+    for name in names:
+        before = log(ondrilo.desktop).count('LEFT_MOUSE_DOWN_KEY')
+        ondrilo.click(name)
+        wait_for(lambda: log(ondrilo.desktop).count('LEFT_MOUSE_DOWN_KEY') > before, 'the press of "%s"' % name)
 
 
 @contextlib.contextmanager
@@ -217,7 +229,8 @@ class Editor(OtherProgram):
     def click_behind(self, beginning):
         """Between the characters of the first paragraph; where writing goes on."""
         paragraph = self.paragraphs()[0]
-        place = self.on_screen(lambda in_what: self.atspi.Text.get_character_extents(paragraph, len(beginning), in_what))
+        extents = self.atspi.Text.get_character_extents
+        place = self.on_screen(lambda in_what: extents(paragraph, len(beginning), in_what))
         self.desktop.click(place.x - 1, place.y + place.height // 2)
         wait_for(lambda: self.atspi.Text.get_caret_offset(paragraph) == len(beginning), 'the caret there')
         return len(beginning)

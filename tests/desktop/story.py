@@ -1,6 +1,7 @@
 """The frame of a story: runs it on a desktop of its own, with the delivered data as an installer leaves it."""
 
 import shutil
+import signal
 import sys
 from pathlib import Path
 
@@ -9,6 +10,8 @@ from desktop import Desktop, Failure
 
 def play(story):
     """Calls story(desktop, program) with the words of the command line: PROGRAM DELIVERED."""
+    # The end of the story from outside, too, stops what it started.
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit('stopped'))
     program, delivered = (Path(word).resolve() for word in sys.argv[1:3])
     with Desktop() as desktop:
         desktop.install(delivered)

@@ -9,7 +9,7 @@ on from the real text after a click; elsewhere it begins anew.
 import sys
 
 from desktop import Program, wait_for
-from other_programs import PROGRAMS, attached
+from other_programs import PROGRAMS, attached, click_keys
 from story import expect, play, prepare_data, set_option, use_words
 
 KEYBOARD = """LINHA Palavras
@@ -63,8 +63,7 @@ class Story:
         self.desktop, self.ondrilo, self.target = desktop, ondrilo, target
 
     def click(self, *names, gives):
-        for name in names:
-            self.ondrilo.click(name)
+        click_keys(self.ondrilo, *names)
         self.target.expect_text(gives)
 
     def predicted(self, word):
