@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""A person writes in another program as in the editor: with keys of the screen and their own, with predictions by
-click and hot key, with commands and key sequences, after a click elsewhere, and after a visit to the editor.
+"""A person writes in another program as in the editor: with keys of the screen and their own, with predictions by click
+and hot key, with abbreviations, commands and key sequences, after a click elsewhere and after a visit to the editor.
 
 The third word of the command line names the program. Where it shows its text to assistive programs, prediction goes
 on from the real text after a click; elsewhere it begins anew.
@@ -44,8 +44,8 @@ TECLA TECLA_NORMAL ã ã ã
 TECLA TECLA_NORMAL Ç Ç Ç
 TECLA TECLA_NORMAL Letras letras Letras.tec
 """
-OPTIONS = {'NOME_TECLADO': 'Letras', 'TEMPO_DE_PREDICAO': 200, 'POSICAO_INICIAL_JANELA_Y': 460, 'REGISTAR_EVENTOS': 1,
-           'NOME_SINTETIZADOR_FALA': 'Nenhum'}
+OPTIONS = {'NOME_TECLADO': 'Letras', 'TEMPO_DE_PREDICAO': 200, 'TECLA_EXPANSAO_ABREVIATURAS': 'Tab',
+           'POSICAO_INICIAL_JANELA_Y': 460, 'REGISTAR_EVENTOS': 1, 'NOME_SINTETIZADOR_FALA': 'Nenhum'}
 
 
 def prepare(desktop):
@@ -54,6 +54,7 @@ def prepare(desktop):
     (desktop.data / 'Acentos.tec').write_text(ACCENTS, 'cp1252')
     # A vocabulary in which each beginning has one continuation only.
     use_words(desktop, 'bem 4\ntudo 5\n', 'tudo bem 3\n')
+    (desktop.data / 'generico.abr').write_text('bl bola bonita\n', 'cp1252')
     for key, value in OPTIONS.items():
         set_option(desktop, key, value)
 
@@ -78,7 +79,9 @@ class Story:
         self.desktop.press('F1')
         self.target.expect_text('OláãÇ. Tudo bem ')
         self.target.type('a raposa salta')
-        self.click('nova', gives='OláãÇ. Tudo bem a raposa salta\n')
+        self.click('nova', 'b', 'l', gives='OláãÇ. Tudo bem a raposa salta\nbl')
+        self.desktop.press('Tab')
+        self.target.expect_text('OláãÇ. Tudo bem a raposa salta\nbola bonita ')
 
     def commands(self):
         text = self.target.text()
