@@ -4,14 +4,6 @@
 #include "text/Splitter.h"
 
 namespace ondrilo {
-namespace {
-
-bool IsRepeat(std::int32_t keyData) {
-    constexpr std::uint32_t kWasDown = 1U << 30;
-    return (static_cast<std::uint32_t>(keyData) & kWasDown) != 0;
-}
-
-} // namespace
 
 InputRouter::InputRouter(const CUserProfileSet& profiles, const Targets& targets, COnScreenKeyboard& keyboard,
                          PredictionKeys& keys, const SpecialKeys& specialKeys, KeySelection& keySelection,
@@ -148,7 +140,7 @@ std::optional<int> InputRouter::SwitchOf(int code) const {
 bool InputRouter::SwitchDown(int code, std::int32_t keyData) {
     const auto number = SwitchOf(code);
     // A switch that is held goes down once, however often the desktop repeats its key.
-    if (number && !IsRepeat(keyData))
+    if (number && !Tells(keyData, kKeyWasDown))
         scanning.SwitchDown(*number);
     return number.has_value();
 }

@@ -25,6 +25,16 @@ std::optional<Message> MessageOf(std::uint8_t button, bool isPress) {
     }
 }
 
+/// Also while no key of a modifier is down: people who press one key at a time latch them.
+std::int32_t ModifiersIn(unsigned state) {
+    std::uint32_t bits = 0;
+    if ((state & XCB_MOD_MASK_SHIFT) != 0)
+        bits |= kKeyWithShift;
+    if ((state & XCB_MOD_MASK_CONTROL) != 0)
+        bits |= kKeyWithControl;
+    return static_cast<std::int32_t>(bits);
+}
+
 } // namespace
 
 Hook::Hook(WindowId target, HookReceiver receiver, void* context)
@@ -163,7 +173,7 @@ void Hook::Press(Keycode keycode, unsigned state, const KeyReader::Reading& read
         swallower->GiveKeyboardBack();
         keyboardBack = std::chrono::steady_clock::now();
     }
-    const auto keyData = KeyDataOf(keycode, false, isRepeat);
+    const auto keyData = KeyDataOf(keycode, false, isRepeat) | ModifiersIn(state);
     for (const int code : reading.codes)
         Send(Message::UM_KEY_DOWN, code, keyData);
     reported[keycode] = reading.codes;

@@ -9,7 +9,8 @@
 /// Keys are reported while a window of the watched program is active, mouse buttons and moves while the
 /// pointer is over one of its windows. The messages and their numbers are those of platform/MessageQueue.h:
 /// UM_KEY_DOWN and UM_KEY_UP with the virtual key and the key data (repeat count 1 in bits 0 to 15, scan code
-/// in bits 16 to 23, bit 30 for a repeat or a release, bit 31 for a release); UM_CHAR with the character in
+/// in bits 16 to 23, in presses bit 25 with Shift and bit 26 with Control, bit 30 for a repeat or a release,
+/// bit 31 for a release); UM_CHAR with the character in
 /// Windows-1252 as the watched program composes it (Backspace, Tab, Enter and Control with a letter are
 /// characters too); UM_LEFT_DOWN to UM_MIDDLE_UP; UM_POINTER_MOVED with eight bits of each coordinate.
 

@@ -2,6 +2,7 @@
 
 #include "text/Text.h"
 
+#include <cstdint>
 #include <optional>
 
 namespace ondrilo {
@@ -16,6 +17,18 @@ inline constexpr int Backspace = 8, Tab = 9, Enter = 13, Shift = 16, Control = 1
 
 /// Modifiers that a character needs on the person's layout.
 enum KeyShift : unsigned { kNoShift = 0, kShift = 1, kControl = 2, kAlt = 4 };
+
+/// What a message tells of a key's event beside the key: repeat count 1 in bits 0 to 15, scan code in bits 16
+/// to 23, and these. The modifiers are told of presses in other programs only.
+enum KeyDataBits : std::uint32_t {
+    kKeyWithShift = 1U << 25,
+    kKeyWithControl = 1U << 26,
+    kKeyWasDown = 1U << 30, ///< a repeat or a release
+    kKeyIsReleased = 1U << 31,
+};
+[[nodiscard]] constexpr bool Tells(std::int32_t keyData, std::uint32_t bits) {
+    return (static_cast<std::uint32_t>(keyData) & bits) != 0;
+}
 
 struct LayoutKey {
     int code = 0;       ///< virtual key code

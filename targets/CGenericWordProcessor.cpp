@@ -77,10 +77,7 @@ void CGenericWordProcessor::DeleteCurrentSentenceLeft() {
 void CGenericWordProcessor::OnEvent(const MessageEvent& event) {
     switch (event.message) {
     case Message::UM_KEY_DOWN:
-        KeyDown(event.first);
-        break;
-    case Message::UM_KEY_UP:
-        KeyUp(event.first);
+        KeyDown(event.first, event.second);
         break;
     case Message::UM_CHAR:
         return Character(static_cast<char>(event.first), event.second);
@@ -110,20 +107,19 @@ void CGenericWordProcessor::OnFocusChange() {
         ResetShadow();
 }
 
-void CGenericWordProcessor::KeyDown(int code) {
-    shiftDown |= code == vk::Shift;
-    controlDown |= code == vk::Control;
+void CGenericWordProcessor::KeyDown(int code, std::int32_t keyData) {
+    const bool isByWords = Tells(keyData, kKeyWithControl);
     if (accessibleRefresh)
         AskForText();
     switch (code) {
     case vk::Backspace:
-        return controlDown ? ResetShadow() : Erase(cursor - 1);
+        return isByWords ? ResetShadow() : Erase(cursor - 1);
     case vk::Delete:
-        return controlDown ? ResetShadow() : Erase(cursor);
+        return isByWords ? ResetShadow() : Erase(cursor);
     case vk::Left:
     case vk::Right:
-        // With Control they go by words, with Shift they select what the next letter replaces.
-        if (controlDown || shiftDown)
+        // With Shift they select what the next letter replaces.
+        if (isByWords || Tells(keyData, kKeyWithShift))
             ResetShadow();
         else if (code == vk::Left)
             cursor -= cursor > 0 ? 1 : 0;
@@ -144,11 +140,6 @@ void CGenericWordProcessor::KeyDown(int code) {
     default:
         return;
     }
-}
-
-void CGenericWordProcessor::KeyUp(int code) {
-    shiftDown &= code != vk::Shift;
-    controlDown &= code != vk::Control;
 }
 
 void CGenericWordProcessor::Character(char c, std::int32_t keyData) {

@@ -71,8 +71,7 @@ class CGenericWordProcessor : public ContextWordProcessor {
     [[nodiscard]] TextContext Context() const override { return {text, cursor}; }
     void OnEvent(const MessageEvent& event);
     void OnFocusChange();
-    void KeyDown(int code);
-    void KeyUp(int code);
+    void KeyDown(int code, std::int32_t keyData);
     void Character(char c, std::int32_t keyData);
     void Button();
     void Insert(char c);
@@ -90,8 +89,6 @@ class CGenericWordProcessor : public ContextWordProcessor {
     UnitEndPosting unitEnds;
     Text text; ///< the shadow
     std::size_t cursor = 0;
-    bool shiftDown = false;
-    bool controlDown = false;
     /// A click throws the shadow away; clear while the mouse is disabled, since clicks are then for our keys.
     bool mouseTracked = true;
     bool accessibleRefresh = false; ///< the real text is awaited

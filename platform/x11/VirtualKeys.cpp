@@ -57,9 +57,9 @@ std::int32_t KeyDataOf(std::uint32_t keycode, bool isRelease, bool isRepeat) {
     // The X server counts keys from 8.
     std::uint32_t data = 1 | ((keycode - 8) & 0xFF) << 16;
     if (isRelease || isRepeat)
-        data |= 1U << 30;
+        data |= kKeyWasDown;
     if (isRelease)
-        data |= 1U << 31;
+        data |= kKeyIsReleased;
     return static_cast<std::int32_t>(data);
 }
 

@@ -31,8 +31,7 @@ using KeyOfCharacter = std::function<std::optional<LayoutKey>(char)>;
 /// The same for a character without a key of its own.
 [[nodiscard]] std::vector<int> VirtualKeysOf(char c, unsigned modifiers, const KeyOfCharacter& keyOf);
 
-/// Repeat count 1 in bits 0 to 15, scan code in bits 16 to 23; bit 30 for a repeat or a release, bit 31 for a
-/// release.
+/// Of KeyDataBits all but the modifiers.
 [[nodiscard]] std::int32_t KeyDataOf(std::uint32_t keycode, bool isRelease, bool isRepeat);
 
 } // namespace ondrilo

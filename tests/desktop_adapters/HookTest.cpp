@@ -34,10 +34,11 @@ class AHook : public testing::Test {
         return hook.InitializeHook(target, [this](const MessageEvent& event) { Note(event); });
     }
     void Note(const MessageEvent& event) {
-        const bool isRepeat = (event.second & 1 << 30) != 0;
         switch (event.message) {
         case Message::UM_KEY_DOWN:
-            told += (isRepeat ? " *" : " +") + std::to_string(event.first);
+            told += Tells(event.second, kKeyWasDown) ? " *" : " +";
+            told += Tells(event.second, kKeyWithShift) ? "shift " : "";
+            told += std::to_string(event.first);
             break;
         case Message::UM_KEY_UP:
             told += " -" + std::to_string(event.first);
@@ -91,7 +92,7 @@ TEST_F(AHook, TellsThePersonsKeysAndWhatTheProgramMakesOfThem) {
     ASSERT_TRUE(isReady);
     server.PersonTaps(ServerKeyboard::kA);
     PersonTapsWith(ServerKeyboard::kShift, ServerKeyboard::kB);
-    ExpectTold(" +65 a -65 +16 +66 B -66 -16");
+    ExpectTold(" +65 a -65 +16 +shift 66 B -66 -16");
     server.PersonTaps(kAcute);
     server.PersonTaps(kE);
     PersonTapsWith(kAltGr, kTwo);
@@ -117,7 +118,7 @@ TEST_F(AHook, TellsOurLettersAsTheStrokesThatTheyCountForAndNothingOfModifiersTh
     ExpectTold(" +16 +191 +65 ã -65 -191"_w);
     server.PersonTaps(ServerKeyboard::kA);
     server.PersonReleases(ServerKeyboard::kShift);
-    ExpectTold(" +65 A -65 -16");
+    ExpectTold(" +shift 65 A -65 -16");
     ExpectReached("eé\rãA");
 }
 
@@ -137,7 +138,8 @@ TEST_F(AHook, ASwallowedKeyIsToldAndNothingThatIsTypedWhileItIsHeldGetsLost) {
     PersonTapsWith(ServerKeyboard::kShift, kF11);
     keys.KeyDown(kVirtualF11);
     keys.KeyUp(kVirtualF11);
-    EXPECT_TRUE(Eventually([&] { return told.ends_with("+16 +122 -122 -16 +122 -122"); })) << ToUtf8(told);
+    EXPECT_TRUE(Eventually([&] { return told.ends_with("+16 +shift 122 -122 -16 +122 -122"); }))
+        << ToUtf8(told);
     EXPECT_EQ(ToUtf8(written), ToUtf8(typed));
     hook.TerminateHook();
     told.clear();

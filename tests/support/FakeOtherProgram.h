@@ -39,8 +39,8 @@ class FakeOtherProgram : public TargetHook, public AccessibleText, private TextS
     [[nodiscard]] bool IsPassword() const override { return isPassword; }
     void ReadParagraph(const std::function<void(Paragraph)>& answer) override { question = answer; }
 
-    void Press(int code) {
-        surface.KeyDown(code);
+    void Press(int code, std::int32_t keyData = 1) {
+        surface.KeyDown(code, keyData);
         surface.KeyUp(code);
     }
     void Write(TextView text) {

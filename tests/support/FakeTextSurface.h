@@ -71,10 +71,10 @@ class FakeTextSurface : public TextSurface {
     void Select(int start, int end) { anchor = start, cursor = end; }
 
     /// A key goes down. False if it was swallowed.
-    bool KeyDown(int code) {
+    bool KeyDown(int code, std::int32_t keyData = 1) {
         if (!listener)
             return true;
-        listener->OnKeyDown(code, 1);
+        listener->OnKeyDown(code, keyData);
         return !listener->IsBlocked(code);
     }
     void KeyUp(int code) {

@@ -71,16 +71,8 @@ TEST_F(GenericWordProcessorTest, WhatMovesTheInsertionPointUnseenThrowsTheShadow
             desktop.MoveFocus(kWindow + 1); // a dialog of the program
             desktop.MoveFocus(kWindow);
         },
-        [this] {
-            program.surface.KeyDown(vk::Control);
-            program.Press(vk::Left);
-            program.surface.KeyUp(vk::Control);
-        },
-        [this] {
-            program.surface.KeyDown(vk::Shift);
-            program.Press(vk::Right);
-            program.surface.KeyUp(vk::Shift);
-        },
+        [this] { program.Press(vk::Left, kKeyWithControl); },
+        [this] { program.Press(vk::Right, kKeyWithShift); },
     };
     for (const auto& move : moves) {
         program.Write("tudo bem");
