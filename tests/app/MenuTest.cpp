@@ -10,7 +10,7 @@ constexpr auto kLocked =
 constexpr auto kEditing = "Por favor termine a edição do teclado de ecrã antes de realizar esta operação."_w;
 
 struct MenuTest : RunningSystem {
-    void Choose(int number) { frame.listener->OnMenuCommand(number); }
+
     /// Presses OK in the options after `change`.
     void ChangeOptions(const std::function<void(const PersonalOptions&)>& change) {
         optionDialogs.inProfileOptions = [change](const PersonalOptions& options,
@@ -32,11 +32,20 @@ TEST_F(MenuTest, LockedOrEditingEntriesAreRefusedBeforeTheyAskAnything) {
     dialogs.inEntries = [](EntryList&) {
         return ADD_FAILURE(), true;
     };
-    const auto guarded = {menu::NewProfile, menu::ProfileOptions, menu::Words,
-                          menu::Sentences,  menu::Abbreviations,  menu::RemoveLogs};
+    dialogs.chosenFile = folder.Write("carta.txt", clipboard.text = "sopa");
+    const auto guarded = {menu::NewProfile,    menu::ProfileOptions,    menu::Words,
+                          menu::Sentences,     menu::Abbreviations,     menu::RemoveLogs,
+                          menu::LearnFromFile, menu::LearnFromClipboard};
     for (const int number : guarded)
         Choose(number);
     EXPECT_EQ(boxes.shown, std::vector<Text>(guarded.size(), Text(kLocked)));
+    EXPECT_FALSE(Dictionary().GetWord("sopa"));
+    bool isSimulating = false;
+    dialogs.inSimulator = [&](Simulator&) {
+        isSimulating = true;
+    };
+    Choose(menu::SimulateWords);
+    EXPECT_TRUE(isSimulating) << "it changes nothing";
 
     dialogs.password = "$Kalvimo7R$";
     Choose(menu::SystemOptions);
@@ -173,7 +182,7 @@ TEST_F(MenuTest, CopiedOptionsTakeEffectInThePersonsOwnProfile) {
 TEST_F(MenuTest, WordsAreKeptOnOkAndComeBackOnCancel) {
     StartWriting();
     const auto userFrequency = [this](TextView word) {
-        const auto entry = view->Profiles().Active().dictionary.GetWord(word);
+        const auto entry = Dictionary().GetWord(word);
         return entry ? entry.UserFrequency() : -1;
     };
     Type("zebra ");

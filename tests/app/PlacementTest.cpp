@@ -12,8 +12,7 @@ TEST_F(RunningSystem, ANormalWindowFitsEditorAndKeyboard) {
     EXPECT_EQ(windows.keyboardPlace, (Point{0, 90}));
 
     Options().Set(option::CENTRAR_JANELA, 1);
-    queue.Post(Message::UM_LAYOUT);
-    Drain();
+    LayOut();
     EXPECT_EQ(frame.position,
               (Point{(1920 - frame.client.width - 16) / 2, (1080 - frame.client.height - 48) / 2}));
 }
@@ -23,8 +22,7 @@ TEST_F(RunningSystem, AMaximizedWindowCentresItsElements) {
     StartWriting("INICIAR_JANELA_MAXIMIZADA 1\nINICIAR_JANELA_MINIMIZADA 1\nALTURA_EDITOR_MENSAGENS 100\n");
     EXPECT_EQ(frame.state, WindowState::Maximized) << "of both, maximised wins";
     frame.client = {1600, 900};
-    queue.Post(Message::UM_LAYOUT);
-    Drain();
+    LayOut();
     const auto keyboard = view->Keyboard().GetSize();
     const int left = (1600 - keyboard.width) / 2;
     EXPECT_EQ(windows.editor->area, (Rectangle{left, 0, keyboard.width, 100}));
@@ -32,8 +30,7 @@ TEST_F(RunningSystem, AMaximizedWindowCentresItsElements) {
 
     Options().Set(option::CENTRA_ELEMENTOS_JANELA, 1);
     Options().Set(option::AJUSTA_COMPRIMENTO_EDITOR_MENSAGENS, 0);
-    queue.Post(Message::UM_LAYOUT);
-    Drain();
+    LayOut();
     const int top = (900 - keyboard.height - 100) / 2;
     EXPECT_EQ(windows.editor->area, (Rectangle{0, top, 1600, 100}));
     EXPECT_EQ(windows.keyboardPlace, (Point{left, top + 100}));
@@ -41,17 +38,22 @@ TEST_F(RunningSystem, AMaximizedWindowCentresItsElements) {
 }
 
 TEST_F(RunningSystem, AMinimizedWindowIsLeftAlone) {
-    StartWriting("INICIAR_JANELA_MINIMIZADA 1\n");
+    SetOptions("INICIAR_JANELA_MINIMIZADA 1\n");
+    Start();
     EXPECT_EQ(frame.state, WindowState::Minimized);
+    EXPECT_FALSE(journal.Has("activate"));
     const auto before = frame.client;
     Options().Set(option::ALTURA_EDITOR_MENSAGENS, 300);
-    queue.Post(Message::UM_LAYOUT);
-    Drain();
+    LayOut();
     EXPECT_EQ(frame.client, before);
 }
 
-TEST_F(RunningSystem, WithoutTheEditorTheKeyboardStandsAtTheTop) {
+TEST_F(RunningSystem, WithoutTheEditorTheKeyboardStandsAtTheTopAndLeavesTheFocusToOthers) {
     StartWriting("PROCESSADOR_TEXTO_INTERNO 0\n");
+    EXPECT_EQ(windows.editor, nullptr);
+    EXPECT_FALSE(frame.acceptsFocus);
+    Click("o");
+    EXPECT_TRUE(keys.events.empty()) << "a text key has no target";
     EXPECT_EQ(windows.keyboardPlace, (Point{0, 0}));
     EXPECT_EQ(frame.client, view->Keyboard().GetSize());
 }
@@ -83,46 +85,39 @@ TEST_F(RunningSystem, ABackgroundPictureOutsideTheDataFolderKeepsItsPath) {
     EXPECT_EQ(frame.background->picture, "/outra pasta/Fundo.bmp");
 }
 
-TEST_F(RunningSystem, TheWindowKeepsAwayFromTheCaretOrFollowsIt) {
+TEST_F(RunningSystem, AWindowThatFleesOrFollowsStaysWholeOnTheScreenOfTheCaret) {
     folder.Write("Casa.tec", "LINHA L\nGRUPO G\nTECLA TECLA_NORMAL o o o\n");
-    StartWriting("REPOSICIONAR_JANELA 1\nPOSICAO_INICIAL_JANELA_X 5\n");
+    desktop.screens.push_back({1920, -200, 1280, 1024});
+    StartWriting("REPOSICIONAR_JANELA 1\nPERSEGUIR_CURSOR_TEXTO 1\nPOSICAO_INICIAL_JANELA_X 5\n");
     windows.editor->caret = {100, 100};
     Tick(20);
     EXPECT_EQ(frame.position.x, 5) << "not while the system's own window is in front";
     CaretFollower follower(Surroundings(), view->Profiles(), view->Keyboard(), view->TextTargets());
-    const auto whole = frame.Frame();
-    follower.Move();
-    EXPECT_EQ(frame.position, (Point{1920 - whole.width, 1080 - whole.height}));
-    windows.editor->caret = {1500, 900};
-    follower.Move();
-    EXPECT_EQ(frame.position, (Point{0, 0}));
-    Options().Set(option::REPOSICIONAR_JANELA, 0);
-    Options().Set(option::PERSEGUIR_CURSOR_TEXTO, 1);
-    follower.Move();
-    EXPECT_EQ(frame.position, (Point{1500 - whole.width / 2, 900 - 10 - whole.height}));
-    windows.editor->caret = {};
-    frame.position = {1, 2};
-    follower.Move();
-    EXPECT_EQ(frame.position, (Point{1, 2}));
-}
-
-TEST_F(RunningSystem, AWindowThatFleesOrFollowsStaysWholeOnTheScreenOfTheCaret) {
-    desktop.screens.push_back({1920, -200, 1280, 1024});
-    StartWriting("PERSEGUIR_CURSOR_TEXTO 1\n");
-    CaretFollower follower(Surroundings(), view->Profiles(), view->Keyboard(), view->TextTargets());
     frame.client = {600, 200}; // 616 by 248 with its decorations
-    const auto placeAt = [&](Point caret) {
-        windows.editor->caret = caret;
-        follower.FollowCaret();
-        return frame.position;
+    const struct {
+        Point caret, flees, follows;
+    } cases[] = {
+        {{100, 100}, {1920 - 616, 1080 - 248}, {0, 100 + 40}}, // no room above
+        {{1500, 900}, {0, 0}, {1500 - 616 / 2, 900 - 10 - 248}},
+        {{1930, 300}, {3200 - 616, 824 - 248}, {1920, 300 - 10 - 248}}, // at the edge of the second screen
+        {{3190, -150}, {1920, 824 - 248}, {3200 - 616, -150 + 40}},
     };
-    EXPECT_EQ(placeAt({1930, 300}), (Point{1920, 42})) << "above, at the edge of the second screen";
-    EXPECT_EQ(placeAt({3190, -150}), (Point{2584, -110})) << "no room above";
-    follower.MoveWindowAwayFromCaret();
-    EXPECT_EQ(frame.position, (Point{1920, 576}));
+    for (const auto& place : cases) {
+        windows.editor->caret = place.caret;
+        Options().Set(option::REPOSICIONAR_JANELA, 1);
+        follower.Move();
+        EXPECT_EQ(frame.position, place.flees);
+        Options().Set(option::REPOSICIONAR_JANELA, 0);
+        follower.Move();
+        EXPECT_EQ(frame.position, place.follows);
+    }
     const int moves = frame.moves;
-    follower.MoveWindowAwayFromCaret();
+    follower.Move();
     EXPECT_EQ(frame.moves, moves) << "it stands there already";
+    frame.position = {1, 2};
+    windows.editor->caret = {};
+    follower.Move();
+    EXPECT_EQ(frame.position, (Point{1, 2})) << "nobody knows where the caret is";
 }
 
 TEST_F(RunningSystem, AColumnOfKeysGoesToTheOtherSideOfACaretAtTheEdge) {

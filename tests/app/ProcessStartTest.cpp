@@ -22,11 +22,8 @@ class ProcessStartTest : public testing::Test {
   protected:
     ProcessStartTest() {
         folder.Write("installed/geral.pal", "a 1\n");
-        folder.Write("installed/a.EXE", "x");
-        folder.Write("installed/a.exe", "x");
-        folder.Write("installed/b.dll", "x");
-        folder.Write("installed/c.isu", "x");
-        folder.Write("installed/CAT_IMG_Casa/porta.bmp", "x");
+        for (const char* file : {"a.EXE", "a.exe", "b.dll", "c.isu", "CAT_IMG_Casa/porta.bmp"})
+            folder.Write(std::string("installed/") + file, "x");
         folder.Write("xdg/Norvane/Ondrilo 3.0/Settings",
                      "Path " + (folder.Path() / "installed").string() + "\n");
         folders.systemConfiguration = {folder.Path() / "nowhere", folder.Path() / "xdg"};

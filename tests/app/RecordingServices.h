@@ -11,9 +11,7 @@ namespace ondrilo {
 
 /// Services that note what is asked of them.
 struct RecordingServices {
-    explicit RecordingServices(Journal& journal)
-        : log(journal), metrics(), speech(journal), cueSpeech(journal), agent(journal), gps(journal),
-          bluetooth(journal), cooperation(journal), userRecord(journal) {}
+    explicit RecordingServices(Journal& newJournal) : journal(newJournal) {}
 
     struct Noting {
         explicit Noting(Journal& journal) : journal(journal) {}
@@ -26,21 +24,19 @@ struct RecordingServices {
             open = true;
             journal.Note("start log");
         }
-        void End(const std::vector<Text>&, const std::vector<Text>& texts) override {
+        void End(const std::vector<Text>&, const std::vector<Text>&) override {
             open = false;
-            finalTexts = texts;
             journal.Note("end log");
         }
         void Write(const LogEvent& event) override { written.push_back(event); }
         bool open = false;
         std::vector<LogEvent> written;
-        std::vector<Text> finalTexts;
     };
     struct Metrics : MetricsSink {
         void Count(Metric metric, int amount) override { counts[metric] += amount; }
-        void Completed(const Completion& completion) override { completions.push_back(completion); }
+        void Completed(const Completion&) override { ++completions; }
         std::map<Metric, int> counts;
-        std::vector<Completion> completions;
+        int completions = 0;
     };
     struct Speech : SpeechService, Noting {
         using Noting::Noting;
@@ -128,16 +124,17 @@ struct RecordingServices {
                 bluetooth, context, cooperation, userRecord, pictograms};
     }
 
-    Log log;
+    Journal& journal;
+    Log log{journal};
     Metrics metrics;
-    Speech speech;
-    Speech cueSpeech;
-    Character agent;
-    Gps gps;
-    Bluetooth bluetooth;
+    Speech speech{journal};
+    Speech cueSpeech{journal};
+    Character agent{journal};
+    Gps gps{journal};
+    Bluetooth bluetooth{journal};
     Context context;
-    Cooperation cooperation;
-    Record userRecord;
+    Cooperation cooperation{journal};
+    Record userRecord{journal};
     Pictograms pictograms;
 };
 

@@ -3,7 +3,7 @@
 namespace ondrilo {
 namespace {
 
-TEST(CountdownTest, CountsUpFromItsStartAndIsDueAtTheEleventhTick) {
+TEST(CountdownTest, IsDueFromTheEleventhTickOnButNeverWithinATick) {
     Countdown countdown;
     EXPECT_FALSE(countdown.Tick(0)) << "a stopped one is never due";
     countdown.Restart();
@@ -13,10 +13,6 @@ TEST(CountdownTest, CountsUpFromItsStartAndIsDueAtTheEleventhTick) {
     EXPECT_TRUE(countdown.Tick(1000)) << "it stays due until it is stopped or restarted";
     countdown.Stop();
     EXPECT_FALSE(countdown.Tick(1000));
-}
-
-TEST(CountdownTest, WhatIsNoMultipleOfATickIsNeverDue) {
-    Countdown countdown;
     countdown.Restart();
     for (int tick = 0; tick < 1000; ++tick)
         EXPECT_FALSE(countdown.Tick(1050));
@@ -34,17 +30,14 @@ TEST_F(RunningSystem, PredictionWaitsForAPauseInTheWriting) {
     EXPECT_EQ(Labels(0)[0], "F1: olá"_w) << "each key starts the pause anew";
     Tick(1);
     EXPECT_EQ(Labels(0)[0], "F1: tudo");
-}
-
-TEST_F(RunningSystem, AClickInTheTextPredictsForItsPlace) {
-    StartWriting();
-    Type("tudo b");
-    Pause();
+    Type("do b");
+    Tick(11);
+    EXPECT_EQ(Labels(0)[0], "F1: bem");
     windows.editor->MoveCursor(2);
     queue.Post(Message::UM_LEFT_UP);
     Drain();
-    Pause();
-    EXPECT_EQ(Labels(0)[0], "F1: tudo");
+    Tick(11);
+    EXPECT_EQ(Labels(0)[0], "F1: tudo") << "a click in the text predicts for its place";
 }
 
 TEST_F(RunningSystem, ControlThenShiftBringsTheMenuBack) {
@@ -64,7 +57,7 @@ TEST_F(RunningSystem, ControlThenShiftBringsTheMenuBack) {
 
 TEST_F(RunningSystem, SwitchesAndTheWayBackToTheMenuWorkWithoutATarget) {
     StartWriting("PROCESSADOR_TEXTO_INTERNO 0\nMETODO_VARRIMENTO Regular\n");
-    frame.listener->OnMenuCommand(menu::DisableMenu);
+    Choose(menu::DisableMenu);
     frame.listener->OnKeyDown(vk::Num0 + 5, 0);
     Tick(3);
     EXPECT_TRUE(Key({0, 0, 0}).highlighted);
@@ -101,13 +94,15 @@ TEST_F(RunningSystem, TheFocusSettlesBeforeTheTargetChanges) {
     desktop.programs[2] = 100;
     desktop.MoveFocus(2);
     EXPECT_TRUE(view->TextTargets().IsInternal()) << "another window of the same program keeps the target";
+}
 
+TEST_F(RunningSystem, AFocusThatNobodyHasGoesToWhoWasWrittenInLast) {
+    StartWriting();
     Click("Shift");
     otherProgram.refuses = true;
     desktop.MoveFocus(7);
     Tick(6);
     EXPECT_TRUE(keys.held.empty()) << "everything typed there would be in capitals";
-
     desktop.MoveFocus(0);
     Tick(6);
     EXPECT_EQ(desktop.foreground, 7U) << "a click on the bare desktop would end the writing";
@@ -128,19 +123,10 @@ TEST_F(RunningSystem, TheFocusSettlesBeforeTheTargetChanges) {
     journal.Take();
     Tick(6);
     EXPECT_FALSE(journal.Has("activate")) << "a minimised window would come back";
-}
-
-TEST_F(RunningSystem, AWindowThatComesBackFromTheTaskBarTakesAFocusThatNobodyHas) {
-    StartWriting();
-    frame.state = WindowState::Minimized;
-    desktop.MoveFocus(0);
-    Tick(6);
-    EXPECT_FALSE(journal.Has("activate")) << "a minimised window stays so";
-
     frame.state = WindowState::Normal;
     frame.listener->OnDraw();
     Tick(6);
-    EXPECT_TRUE(journal.Has("activate"));
+    EXPECT_TRUE(journal.Has("activate")) << "it came back from the task bar";
 }
 
 TEST_F(RunningSystem, WhatIsWrittenIsHeardAsTheProfileWants) {
@@ -151,16 +137,6 @@ TEST_F(RunningSystem, WhatIsWrittenIsHeardAsTheProfileWants) {
     Options().Set(option::NOME_SINTETIZADOR_FALA, "Nenhum");
     Type("a");
     EXPECT_TRUE(services.speech.spoken.empty()) << "without a voice nothing is spoken";
-}
-
-TEST_F(RunningSystem, TheSpeechKeysSpeakWordAndSentence) {
-    StartWriting();
-    Type("bom dia  . tudo be");
-    Press(vk::F1 + 10);
-    Press(vk::F1 + 11);
-    Type("m. ");
-    Press(vk::F1 + 11);
-    EXPECT_EQ(services.speech.spoken, Texts("be", "tudo be", "tudo bem."));
 }
 
 TEST_F(RunningSystem, HoveringSpeaksTheWordOfAPredictionAndTheDescriptionOfOthers) {

@@ -117,6 +117,13 @@ class RunningSystem : public testing::Test {
             Drain();
         }
     }
+    /// What waits for its turn in the next layout takes place.
+    void LayOut() {
+        queue.Post(Message::UM_LAYOUT);
+        Drain();
+    }
+    void Choose(int command) { frame.listener->OnMenuCommand(command); }
+    CDictionary& Dictionary() { return view->Profiles().Active().dictionary; }
     [[nodiscard]] const COnScreenKey& Key(COnScreenKeyIdentifier key) const {
         return view->Keyboard().Key(key);
     }

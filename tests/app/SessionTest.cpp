@@ -41,7 +41,7 @@ TEST_F(RunningSystem, AChangeOfProfileRunsBothSessionsWhole) {
     Click("outro.tec");
     EXPECT_EQ(Options().activeKeyboardName, "outro");
     dialogs.chosenProfile = "generico";
-    frame.listener->OnMenuCommand(menu::OpenProfile);
+    Choose(menu::OpenProfile);
     EXPECT_EQ(windows.notice.text, "A carregar perfil... Por favor aguarde.");
     EXPECT_EQ(Options().activeKeyboardName, "Casa") << "the profile opens with its own keyboard";
     journal.Take();
@@ -68,7 +68,7 @@ TEST_F(RunningSystem, AnUnsavedKeyboardIsAskedAboutWithoutAWayBack) {
     boxes.answers = {Answer::No};
     const auto before = folder.Read("outro.tec");
     dialogs.chosenProfile = "ana";
-    frame.listener->OnMenuCommand(menu::OpenProfile);
+    Choose(menu::OpenProfile);
     EXPECT_EQ(boxes.shown, Texts(question, question));
     EXPECT_EQ(folder.Read("outro.tec"), before);
 }
@@ -90,19 +90,12 @@ TEST_F(RunningSystem, WhileAKeyboardIsAskedAboutNothingElseTakesItAway) {
 
     view->Keyboard().MarkModified();
     boxes.whileAsked = [this] {
-        frame.listener->OnMenuCommand(menu::OpenProfile);
+        Choose(menu::OpenProfile);
         frame.listener->OnKeyDown('A', 0);
         EXPECT_EQ(boxes.shown.size(), 2U) << "a second change of profile";
     };
-    frame.listener->OnMenuCommand(menu::OpenProfile);
+    Choose(menu::OpenProfile);
     EXPECT_EQ(Options().profileName, "ana");
-}
-
-TEST_F(RunningSystem, AWindowThatIsToStartMinimizedStaysSo) {
-    SetOptions("INICIAR_JANELA_MINIMIZADA 1\n");
-    Start();
-    EXPECT_EQ(frame.state, WindowState::Minimized);
-    EXPECT_FALSE(journal.Has("activate"));
 }
 
 TEST_F(RunningSystem, HugeNumbersInAProfileHarmNothing) {
@@ -127,12 +120,10 @@ TEST_F(RunningSystem, NoMessageIsHandledWhileASessionStops) {
     EXPECT_TRUE(std::find(keys.events.begin(), keys.events.end(), "type o") == keys.events.end());
 }
 
-TEST_F(RunningSystem, AnUnknownStartProfileBecomesTheGenericOne) {
-    folder.Write("configsis", "PERFIL_UTILIZADOR_ARRANQUE rui\n");
+TEST_F(RunningSystem, TheStartOpensTheProfileOfTheSystemOptions) {
+    folder.Write("configsis", "PERFIL_UTILIZADOR_ARRANQUE ana\n");
     Start();
-    EXPECT_EQ(Options().profileName, "generico");
-    ASSERT_EQ(boxes.shown.size(), 1U);
-    EXPECT_NE(boxes.shown[0].find("rui"), Text::npos);
+    EXPECT_EQ(Options().profileName, "ana");
 }
 
 TEST_F(RunningSystem, WithContextAdaptationTheStartWaitsForTheFirstReadings) {
@@ -193,15 +184,6 @@ TEST_F(RunningSystem, SwitchingTheLogLightsItsKeysAndMarksTheProfile) {
     EXPECT_FALSE(Key(key).IsLit());
     EXPECT_FALSE(services.log.open);
     EXPECT_EQ(journal.Take(), Texts("start log", "end log"));
-}
-
-TEST_F(RunningSystem, AProfileWithoutTheEditorLeavesTheFocusToOthers) {
-    StartWriting("PROCESSADOR_TEXTO_INTERNO 0\n");
-    EXPECT_FALSE(frame.acceptsFocus);
-    EXPECT_EQ(windows.editor, nullptr);
-    EXPECT_EQ(view->TextTargets().Current(), nullptr);
-    Click("o");
-    EXPECT_TRUE(keys.events.empty()) << "a text key has no target";
 }
 
 } // namespace

@@ -3,8 +3,6 @@
 namespace ondrilo {
 namespace {
 
-constexpr TextView kLocked =
-    "As alterações ao sistema estão bloqueadas! Este bloqueio pode ser retirado em Opções Gerais."_w;
 constexpr TextView kLearned = "As palavras e frases do utilizador foram incorporadas no dicionário."_w;
 
 /// The system, and what is shown of a simulation.
@@ -15,8 +13,6 @@ class Simulating : public RunningSystem, public SimulatorProgress {
         written.append(word).append(" ");
         indicators = newest;
     }
-    CDictionary& Dictionary() { return view->Profiles().Active().dictionary; }
-    void Choose(int command) { frame.listener->OnMenuCommand(command); }
 
     std::vector<int> announced;
     Text written;
@@ -55,23 +51,6 @@ TEST_F(Simulating, TheClipboardTeachesOnlyWhatFitsIntoIt) {
     EXPECT_EQ(Dictionary().GetWord("sopa").UserFrequency(), 1);
     EXPECT_EQ(boxes.shown, Texts(kLearned));
     EXPECT_EQ(frame.statusMessages.size(), 2U);
-}
-
-TEST_F(Simulating, LockedChangesKeepTheVocabularyButNotTheSimulator) {
-    folder.Write("configsis", "ALTERACOES_SISTEMA 0\n");
-    StartWriting();
-    clipboard.text = "sopa";
-    dialogs.chosenFile = folder.Write("carta.txt", "sopa");
-    Choose(menu::LearnFromFile);
-    Choose(menu::LearnFromClipboard);
-    EXPECT_EQ(boxes.shown, Texts(kLocked, kLocked));
-    EXPECT_FALSE(Dictionary().GetWord("sopa"));
-    bool opened = false;
-    dialogs.inSimulator = [&](Simulator&) {
-        opened = true;
-    };
-    Choose(menu::SimulateWords);
-    EXPECT_TRUE(opened);
 }
 
 TEST_F(Simulating, ASimulationShowsItsFiguresWritesItsRowAndLeavesNothingLearned) {

@@ -30,7 +30,7 @@ TEST_F(SpeechTest, WhatIsSpokenByKeyOrCommandIsLearnedBeforeLoggedAndCounted) {
     StartWriting("REGISTAR_EVENTOS 1\n");
     bool isLearned = false;
     services.speech.onSpeak = [&] {
-        isLearned = view->Profiles().Active().dictionary.GetSentence("bom dia").UserFrequency() > 0;
+        isLearned = Dictionary().GetSentence("bom dia").UserFrequency() > 0;
     };
     Type("  bom   dia");
     Press(kSpeakSentence);
@@ -82,7 +82,7 @@ TEST_F(SpeechTest, WithoutAVoiceNothingIsLoggedOrCountedButTheSentenceIsLearned)
     Click("[Sintetizar-Fala-Palavra]");
     EXPECT_EQ(Heard(), Expected());
     EXPECT_EQ(Counted(Metric::WordInSpeech), 0);
-    EXPECT_EQ(view->Profiles().Active().dictionary.GetSentence("bom dia").UserFrequency(), 1);
+    EXPECT_EQ(Dictionary().GetSentence("bom dia").UserFrequency(), 1);
 }
 
 TEST_F(SpeechTest, VoicesFollowTheAccessOptionsFromTheStartAndFromTheDialog) {
@@ -104,7 +104,7 @@ TEST_F(SpeechTest, VoicesFollowTheAccessOptionsFromTheStartAndFromTheDialog) {
         options.access.SetCueVoice("");
         return accepted;
     };
-    frame.listener->OnMenuCommand(menu::ProfileOptions);
+    Choose(menu::ProfileOptions);
     EXPECT_EQ(services.speech.manner, (SpeechManner{30, std::nullopt, 80}));
     EXPECT_EQ(services.cueSpeech.voice, "Joana");
     EXPECT_EQ(services.cueSpeech.manner, services.speech.manner);
@@ -112,7 +112,7 @@ TEST_F(SpeechTest, VoicesFollowTheAccessOptionsFromTheStartAndFromTheDialog) {
 
     accepted = false;
     journal.Take();
-    frame.listener->OnMenuCommand(menu::ProfileOptions);
+    Choose(menu::ProfileOptions);
     EXPECT_TRUE(journal.Has("voice Joana"))
         << "exceptions may have changed although the dialog was cancelled";
 }

@@ -22,8 +22,8 @@ class FakeDesktop : public Desktop {
         const auto program = programs.find(window);
         return program == programs.end() ? 0 : static_cast<std::uint32_t>(program->second);
     }
-    [[nodiscard]] Rectangle ClientArea(WindowId) const override { return targetArea; }
-    [[nodiscard]] bool IsUnder(WindowId, Point point) const override { return targetArea.Contains(point); }
+    [[nodiscard]] Rectangle ClientArea(WindowId) const override { return {}; }
+    [[nodiscard]] bool IsUnder(WindowId, Point) const override { return false; }
     [[nodiscard]] RegistrationHandle OnFocusChange(std::function<void()> changed) override {
         listeners[++lastListener] = std::move(changed);
         return std::make_unique<Handle>(*this, lastListener);
@@ -53,7 +53,6 @@ class FakeDesktop : public Desktop {
     std::map<WindowId, int> programs; ///< process number of each window
     Point pointer;
     std::vector<Rectangle> screens{{0, 0, 1920, 1080}}; ///< the first one is the primary one
-    Rectangle targetArea;                               ///< of every window
 
   private:
     struct Handle : Registration {

@@ -12,7 +12,6 @@ class FakeSessionWindows : public SessionWindows {
     FakeSessionWindows(Journal& journal, FakeKeyOutput& keys) : journal(journal), keys(keys) {}
 
     [[nodiscard]] std::unique_ptr<TextSurface> CreateEditorBox() override {
-        journal.Note("create editor");
         return std::make_unique<EditorBox>(*this);
     }
     [[nodiscard]] std::unique_ptr<KeyboardWindow> CreateKeyboardWindow(COnScreenKeyboard&) override {
@@ -40,43 +39,36 @@ class FakeSessionWindows : public SessionWindows {
     int alive = 0;                     ///< windows that exist
 
   private:
-    struct EditorBox : FakeTextSurface {
-        explicit EditorBox(FakeSessionWindows& owner) : owner(owner) {
-            owner.editor = owner.keys.surface = this;
-            ++owner.alive;
-        }
-        ~EditorBox() override {
-            owner.editor = owner.keys.surface = nullptr;
-            --owner.alive;
-            owner.journal.Note("destroy editor");
-        }
-        FakeSessionWindows& owner;
-    };
-    struct Board : KeyboardWindow {
-        explicit Board(FakeSessionWindows& owner) : owner(owner) {
-            ++owner.alive;
-            owner.journal.Note("create keyboard");
-        }
-        ~Board() override {
-            --owner.alive;
-            owner.journal.Note("destroy keyboard");
-        }
-        void MoveTo(Point position) override { owner.keyboardPlace = position; }
-        FakeSessionWindows& owner;
-    };
-    /// As wide as 10 pixels a letter, 20 tall.
-    struct Window : TextWindow {
-        Window(FakeSessionWindows& owner, Text name, Shown& shown)
-            : owner(owner), name(std::move(name)), shown(shown) {
-            shown = {};
+    /// Notes how a window comes and goes.
+    struct Life {
+        Life(FakeSessionWindows& owner, Text name) : owner(owner), name(std::move(name)) {
             ++owner.alive;
             owner.journal.Note("create " + this->name);
         }
-        ~Window() override {
-            shown.visible = false;
+        ~Life() {
             --owner.alive;
             owner.journal.Note("destroy " + name);
         }
+        FakeSessionWindows& owner;
+        Text name;
+    };
+    struct EditorBox : Life, FakeTextSurface {
+        explicit EditorBox(FakeSessionWindows& owner) : Life(owner, "editor") {
+            owner.editor = owner.keys.surface = this;
+        }
+        ~EditorBox() override { owner.editor = owner.keys.surface = nullptr; }
+    };
+    struct Board : Life, KeyboardWindow {
+        explicit Board(FakeSessionWindows& owner) : Life(owner, "keyboard") {}
+        void MoveTo(Point position) override { owner.keyboardPlace = position; }
+    };
+    /// As wide as 10 pixels a letter, 20 tall.
+    struct Window : Life, TextWindow {
+        Window(FakeSessionWindows& owner, Text name, Shown& shown)
+            : Life(owner, std::move(name)), shown(shown) {
+            shown = {};
+        }
+        ~Window() override { shown.visible = false; }
         void SetText(TextView text) override {
             shown.text = text;
             owner.texts.emplace_back(text);
@@ -86,8 +78,6 @@ class FakeSessionWindows : public SessionWindows {
         void Show() override { shown.visible = true; }
         void Hide() override { shown.visible = false; }
         [[nodiscard]] bool IsVisible() const override { return shown.visible; }
-        FakeSessionWindows& owner;
-        Text name;
         Shown& shown;
     };
 

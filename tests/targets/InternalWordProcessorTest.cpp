@@ -53,39 +53,30 @@ TEST_F(EditorTest, AnEmptyBoxAnswersWithNothingAndHasNothingToDelete) {
     EXPECT_EQ(box.text, "");
 }
 
-TEST_F(EditorTest, ACompletedWordKeepsWhatWasTypedAndAddsTheRestInSmallLettersAndAnotherReplacesIt) {
-    for (const auto& [before, word, after] : {std::array<TextView, 3>{"Ca", "CASA", "Casa "},
-                                              {"Casa ", "Bonita", "Casa Bonita "},
-                                              {"um ca", "gato", "um gato "}}) {
-        box.SetText(before);
+TEST_F(EditorTest, ACompletionContinuesInSmallLettersOrReplacesWhatWasTypedWhateverIsSelected) {
+    const struct {
+        TextView before, word, sentence, after;
+        bool isSelected = false;
+    } cases[] = {
+        {"Ca", "CASA", "", "Casa "},
+        {"Casa ", "Bonita", "", "Casa Bonita "},
+        {"um ca", "gato", "", "um gato "},
+        {"Olá.  bom \n d"_w, "", "Bom dia", "Olá.  bom \n dia "_w},
+        {"Olá. talvez"_w, "", "Bom dia", "Olá. Bom dia "_w},
+        {"Olá.\ntalvez"_w, "", "Bom dia", "Olá.\nBom dia "_w},
+        {"Olá. tal\nvez"_w, "", "Bom dia", "Olá. \nBom dia "_w},
+        {"talvez", "", "Bom dia", "Bom dia "},
+        {"um ca", "casa", "", "um casa ", true},
+        {"Bom di", "", "bom dia.", "Bom dia. ", true},
+    };
+    for (const auto& text : cases) {
+        SCOPED_TRACE(text.before);
+        box.SetText(text.before);
+        box.Select(text.isSelected ? 0 : box.cursor, box.cursor);
         box.hasFocus = false;
-        editor.WriteWord(word);
-        EXPECT_EQ(box.text, after);
+        text.word.empty() ? editor.WriteSentence(text.sentence) : editor.WriteWord(text.word);
+        EXPECT_EQ(box.text, text.after);
         EXPECT_TRUE(box.hasFocus);
-    }
-}
-
-TEST_F(EditorTest, ACompletionTakesNothingAwayThatIsSelected) {
-    box.SetText("um ca");
-    box.Select(0, 5);
-    editor.WriteWord("casa");
-    EXPECT_EQ(box.text, "um casa ");
-    box.SetText("Bom di");
-    box.Select(0, 6);
-    editor.WriteSentence("bom dia.");
-    EXPECT_EQ(box.text, "Bom dia. ");
-}
-
-TEST_F(EditorTest, ASentenceContinuesWhatWasTypedOrReplacesItAndKeepsBlankAndParagraph) {
-    using Row = std::pair<TextView, TextView>;
-    for (const auto& [before, after] : {Row{"Olá.  bom \n d"_w, "Olá.  bom \n dia "_w},
-                                        {"Olá. talvez"_w, "Olá. Bom dia "_w},
-                                        {"Olá.\ntalvez"_w, "Olá.\nBom dia "_w},
-                                        {"Olá. tal\nvez"_w, "Olá. \nBom dia "_w},
-                                        {"talvez", "Bom dia "}}) {
-        box.SetText(before);
-        editor.WriteSentence("Bom dia");
-        EXPECT_EQ(box.text, after) << before;
     }
 }
 
