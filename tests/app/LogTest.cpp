@@ -139,12 +139,20 @@ TEST_F(LogTest, CountsOnlyWhileItIsOpenAndGoesOnInANewFile) {
     EXPECT_TRUE(shown("Numero_Activacoes_Manipulos 0"));
     EXPECT_EQ(DataFolder(folder.Path()).Files(".log").size(), 2U);
     Type("o");
-    Click("[Trocar-Modo-Logging]");
+    const auto key = KeyOf("[Trocar-Modo-Logging]");
+    EXPECT_TRUE(Key(key).IsLit());
+    EXPECT_TRUE(frame.title.ends_with("(Logging Ligado)"));
+    Click(key);
+    EXPECT_FALSE(Key(key).IsLit());
+    EXPECT_TRUE(frame.title.ends_with("(Logging Desligado)"));
     EXPECT_TRUE(shown("Numero_Teclas_Pressionadas 0"));
     Type("o");
     pressSwitch();
     EXPECT_TRUE(shown("Numero_Teclas_Pressionadas 0"));
     EXPECT_TRUE(shown("Numero_Activacoes_Manipulos 0"));
+    Click(key);
+    EXPECT_TRUE(Key(key).IsLit());
+    EXPECT_TRUE(log.IsOpen());
 }
 
 } // namespace

@@ -22,7 +22,7 @@ struct MenuTest : RunningSystem {
     }
 };
 
-TEST_F(MenuTest, LockedOrEditingEntriesAreRefusedBeforeTheyAskAnything) {
+TEST_F(MenuTest, ALockRefusesEveryChangeBeforeItAsksAnythingUntilThePasswordOpensIt) {
     folder.Write("configsis", "ALTERACOES_SISTEMA 0\n");
     StartWriting();
     dialogs.newProfile = "eva";
@@ -47,9 +47,21 @@ TEST_F(MenuTest, LockedOrEditingEntriesAreRefusedBeforeTheyAskAnything) {
     Choose(menu::SimulateWords);
     EXPECT_TRUE(isSimulating) << "it changes nothing";
 
+    dialogs.password = "$kalvimo7r$";
+    Choose(menu::SystemOptions);
+    EXPECT_EQ(boxes.shown.back(), "Senha incorrecta!");
+    boxes.shown.clear();
+    dialogs.password.reset();
+    Choose(menu::SystemOptions);
+    EXPECT_EQ(boxes.shown, Texts()) << "to give up is no mistake";
     dialogs.password = "$Kalvimo7R$";
     Choose(menu::SystemOptions);
-    boxes.shown.clear();
+    EXPECT_NE(folder.Read("configsis").find("ALTERACOES_SISTEMA 1\n"), Text::npos)
+        << "open even if the dialog is cancelled";
+}
+
+TEST_F(MenuTest, NothingTakesAKeyboardAwayThatIsBeingEdited) {
+    StartWriting();
     view->Keyboard().SetEditing(true);
     const auto replacing = {menu::NewProfile, menu::OpenProfile, menu::ProfileOptions,
                             menu::CopyProfileOptions};
@@ -80,24 +92,6 @@ TEST_F(MenuTest, WhileACommandRunsNoOtherAndNoKeyAndNoContextChangeTheProfile) {
     EXPECT_EQ(Options().profileName, "generico");
     Tick(60);
     EXPECT_EQ(Options().profileName, "ana") << "afterwards the context counts again";
-}
-
-TEST_F(MenuTest, ThePasswordOpensTheLockAndAWrongOneEndsTheCommand) {
-    folder.Write("configsis", "ALTERACOES_SISTEMA 0\n");
-    StartWriting();
-    optionDialogs.inSystemOptions = [](CSystemOptions&, SystemOptionSources&) {
-        return false;
-    };
-    dialogs.password = "$kalvimo7r$";
-    Choose(menu::SystemOptions);
-    EXPECT_EQ(boxes.shown, Texts("Senha incorrecta!"));
-    dialogs.password.reset();
-    Choose(menu::SystemOptions);
-    EXPECT_EQ(boxes.shown.size(), 1U) << "to give up is no mistake";
-    dialogs.password = "$Kalvimo7R$";
-    Choose(menu::SystemOptions);
-    EXPECT_NE(folder.Read("configsis").find("ALTERACOES_SISTEMA 1\n"), Text::npos)
-        << "open even if the dialog is cancelled";
 }
 
 TEST_F(MenuTest, AnotherPortOrMechanismRestartsItsSource) {

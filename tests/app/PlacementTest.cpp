@@ -86,7 +86,6 @@ TEST_F(RunningSystem, ABackgroundPictureOutsideTheDataFolderKeepsItsPath) {
 }
 
 TEST_F(RunningSystem, AWindowThatFleesOrFollowsStaysWholeOnTheScreenOfTheCaret) {
-    folder.Write("Casa.tec", "LINHA L\nGRUPO G\nTECLA TECLA_NORMAL o o o\n");
     desktop.screens.push_back({1920, -200, 1280, 1024});
     StartWriting("REPOSICIONAR_JANELA 1\nPERSEGUIR_CURSOR_TEXTO 1\nPOSICAO_INICIAL_JANELA_X 5\n");
     windows.editor->caret = {100, 100};
@@ -118,6 +117,10 @@ TEST_F(RunningSystem, AWindowThatFleesOrFollowsStaysWholeOnTheScreenOfTheCaret) 
     windows.editor->caret = {};
     follower.Move();
     EXPECT_EQ(frame.position, (Point{1, 2})) << "nobody knows where the caret is";
+    Click("outro.tec");
+    windows.editor->caret = {1500, 900};
+    follower.Move();
+    EXPECT_LT(frame.position.x, 1500) << "a single line stands above the caret, however short it is";
 }
 
 TEST_F(RunningSystem, AColumnOfKeysGoesToTheOtherSideOfACaretAtTheEdge) {

@@ -133,10 +133,6 @@ TEST_F(RunningSystem, WhatIsWrittenIsHeardAsTheProfileWants) {
     StartWriting("OUVIR_LETRAS 1\nOUVIR_PALAVRAS 1\nOUVIR_FRASES 1\n");
     Type("tu.");
     EXPECT_EQ(services.speech.spoken, Texts("t", "u", ".", "tu", "tu."));
-    services.speech.spoken.clear();
-    Options().Set(option::NOME_SINTETIZADOR_FALA, "Nenhum");
-    Type("a");
-    EXPECT_TRUE(services.speech.spoken.empty()) << "without a voice nothing is spoken";
 }
 
 TEST_F(RunningSystem, HoveringSpeaksTheWordOfAPredictionAndTheDescriptionOfOthers) {

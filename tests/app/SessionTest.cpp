@@ -173,18 +173,5 @@ TEST_F(RunningSystem, ABrokenKeyboardShowsWhatCouldBeReadAndTellsTheLine) {
     EXPECT_EQ(Written(), "o");
 }
 
-TEST_F(RunningSystem, SwitchingTheLogLightsItsKeysAndMarksTheProfile) {
-    StartWriting();
-    const auto key = KeyOf("[Trocar-Modo-Logging]");
-    Click(key);
-    EXPECT_TRUE(Key(key).IsLit());
-    EXPECT_TRUE(services.log.open);
-    EXPECT_EQ(frame.title, "Ondrilo V3.0: generico (Casa) (Logging Ligado)");
-    Click(key);
-    EXPECT_FALSE(Key(key).IsLit());
-    EXPECT_FALSE(services.log.open);
-    EXPECT_EQ(journal.Take(), Texts("start log", "end log"));
-}
-
 } // namespace
 } // namespace ondrilo

@@ -75,7 +75,7 @@ TEST_F(SpeechTest, AfterAPictogramItsLabelIsSpokenUnlessAWordFollows) {
 }
 
 TEST_F(SpeechTest, WithoutAVoiceNothingIsLoggedOrCountedButTheSentenceIsLearned) {
-    StartWriting("REGISTAR_EVENTOS 1\nNOME_SINTETIZADOR_FALA Nenhum\n");
+    StartWriting("REGISTAR_EVENTOS 1\nNOME_SINTETIZADOR_FALA Nenhum\nOUVIR_LETRAS 1\n");
     EXPECT_EQ(services.speech.voice, "");
     Type("bom dia");
     Press(kSpeakSentence);
