@@ -64,8 +64,10 @@ TEST_F(PictogramTest, TheProfileDecidesAboutCaptionsTextAndLength) {
 TEST_F(PictogramTest, APictogramTakesThePlaceOfWhatItsWordsBegan) {
     StartWriting();
     Type("olá. que"_w);
+    services.cooperation.up = true;
     Click(COnScreenKeyIdentifier{0, 0, 3});
     EXPECT_EQ(Written(), "olá. "_w);
+    EXPECT_EQ(Image(1).description, "") << "a partner's suggestions go after a selection";
 }
 
 } // namespace
