@@ -1,3 +1,4 @@
+#include "platform/Clock.h"
 #include "platform/MessageQueue.h"
 
 #include <gmock/gmock.h>
@@ -93,6 +94,21 @@ TEST_F(MessageQueueTest, ThreadsThatPostLoseNothingAndKeepTheirOwnOrder) {
         queue.Drain([&](const MessageEvent& event) { EXPECT_EQ(event.second, next[event.first]++); });
     first.join();
     second.join();
+}
+
+TEST(TickDeadline, ASlowHandlerMakesTicksLateButNeverFastNorInABunch) {
+    TickDeadline deadline(Milliseconds{100}, Milliseconds{1000});
+    EXPECT_EQ(deadline.Remaining(Milliseconds{1000}), Milliseconds{100});
+    EXPECT_EQ(deadline.Remaining(Milliseconds{1130}), Milliseconds{0});
+
+    deadline.Advance(Milliseconds{1130});
+    EXPECT_EQ(deadline.Remaining(Milliseconds{1130}), Milliseconds{70}) << "the grid does not slip";
+
+    deadline.Advance(Milliseconds{1550});
+    EXPECT_EQ(deadline.Remaining(Milliseconds{1550}), Milliseconds{50}) << "missed ticks are dropped";
+
+    deadline.Advance(Milliseconds{1600});
+    EXPECT_EQ(deadline.Remaining(Milliseconds{1600}), Milliseconds{100});
 }
 
 } // namespace

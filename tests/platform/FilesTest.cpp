@@ -1,5 +1,5 @@
+#include "platform/DataFolder.h"
 #include "platform/FileStore.h"
-
 #include "tests/support/FullDisk.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -13,9 +13,10 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
+using testing::IsEmpty;
 using testing::MatchesRegex;
 
-class FileStoreTest : public testing::Test {
+class FilesTest : public testing::Test {
   protected:
     [[nodiscard]] std::vector<std::string> Names() const {
         std::vector<std::string> names;
@@ -27,9 +28,10 @@ class FileStoreTest : public testing::Test {
     [[nodiscard]] fs::path At(const std::string& name) const { return folder.Path() / name; }
 
     TemporaryFolder folder;
+    DataFolder data{folder.Path()};
 };
 
-TEST_F(FileStoreTest, TellsAMissingFileFromAnEmptyAndFromOneThatCannotBeRead) {
+TEST_F(FilesTest, TellsAMissingFileFromAnEmptyAndFromOneThatCannotBeRead) {
     folder.Write("a", "");
     ASSERT_EQ(::mkfifo(At("tubo").c_str(), 0600), 0); // must not freeze the reader
     const std::tuple<fs::path, ReadState, bool> rows[] = {
@@ -43,7 +45,7 @@ TEST_F(FileStoreTest, TellsAMissingFileFromAnEmptyAndFromOneThatCannotBeRead) {
     }
 }
 
-TEST_F(FileStoreTest, KeepsEveryByteOfABigFile) {
+TEST_F(FilesTest, KeepsEveryByteOfABigFile) {
     Text bytes;
     for (int i = 0; i < 300000; ++i)
         bytes += static_cast<char>(i * 7);
@@ -52,7 +54,7 @@ TEST_F(FileStoreTest, KeepsEveryByteOfABigFile) {
     EXPECT_THAT(Names(), ElementsAre("ana.pal")) << "no temporary file is left";
 }
 
-TEST_F(FileStoreTest, AFullDiskKeepsTheOldFileAndIsTold) {
+TEST_F(FilesTest, AFullDiskKeepsTheOldFileAndIsTold) {
     folder.Write("ana.pal", "casa 3\n");
     {
         const FullDisk disk(1000);
@@ -64,7 +66,7 @@ TEST_F(FileStoreTest, AFullDiskKeepsTheOldFileAndIsTold) {
     EXPECT_TRUE(ReplaceFile(At("ana.pal"), "nova 1\n")) << "once there is room again";
 }
 
-TEST_F(FileStoreTest, AFolderOrAFileThatIsWriteProtectedOrNotThereStaysAsItIsAndIsTold) {
+TEST_F(FilesTest, AFolderOrAFileThatIsWriteProtectedOrNotThereStaysAsItIsAndIsTold) {
     EXPECT_FALSE(ReplaceFile(At("não") / "configsis", "x"));
     if (::geteuid() == 0)
         GTEST_SKIP() << "the superuser may write anywhere";
@@ -76,7 +78,7 @@ TEST_F(FileStoreTest, AFolderOrAFileThatIsWriteProtectedOrNotThereStaysAsItIsAnd
     EXPECT_EQ(folder.Read("fixo.cfg"), "velho");
 }
 
-TEST_F(FileStoreTest, TheRightsOfAFileStayAndANewOneHasThoseThatThePersonWants) {
+TEST_F(FilesTest, TheRightsOfAFileStayAndANewOneHasThoseThatThePersonWants) {
     fs::permissions(folder.Write("a", "velho"), fs::perms{0640});
     const mode_t before = ::umask(027);
     EXPECT_TRUE(ReplaceFile(At("b"), "novo"));
@@ -86,7 +88,7 @@ TEST_F(FileStoreTest, TheRightsOfAFileStayAndANewOneHasThoseThatThePersonWants) 
         EXPECT_EQ(fs::status(At(name)).permissions(), fs::perms{0640}) << name;
 }
 
-TEST_F(FileStoreTest, AFileThatCannotBeReadIsSetAsideAndNeverOverwritten) {
+TEST_F(FilesTest, AFileThatCannotBeReadIsSetAsideAndNeverOverwritten) {
     for (const char* lost : {"um", "dois"}) {
         fs::remove(At("ana.pal"));
         folder.Write("ana.pal/dentro", lost);
@@ -99,12 +101,34 @@ TEST_F(FileStoreTest, AFileThatCannotBeReadIsSetAsideAndNeverOverwritten) {
     EXPECT_EQ(folder.Read(names[1] + "/dentro"), "um");
 }
 
-TEST_F(FileStoreTest, ALinkKeepsPointingAtTheFileThatIsReplaced) {
+TEST_F(FilesTest, ALinkKeepsPointingAtTheFileThatIsReplaced) {
     folder.Write("longe/ana.pal", "velho");
     fs::create_symlink(At("longe") / "ana.pal", At("ana.pal"));
     ASSERT_TRUE(ReplaceFile(At("ana.pal"), "novo"));
     EXPECT_TRUE(fs::is_symlink(At("ana.pal")));
     EXPECT_EQ(folder.Read("longe/ana.pal"), "novo");
+}
+
+TEST_F(FilesTest, ALookUpForgivesOnlyCaseAndPrefersTheExactNameWhichIsUtf8OnDisk) {
+    for (const char* name : {"CAT_IMG_Casa/Chão.BMP", "Letras.tec", "letras.tec"})
+        folder.Write(name, "");
+    EXPECT_EQ(data.Find("cat_img_casa\\CHÃO.bmp"_w), folder.Path() / "CAT_IMG_Casa" / "Chão.BMP");
+    EXPECT_EQ(data.Find("letras.tec"), folder.Path() / "letras.tec");
+    EXPECT_EQ(data.Find("LETRAS.TEC"), folder.Path() / "Letras.tec");
+    EXPECT_EQ(data.Find("outra.tec"), folder.Path() / "outra.tec");
+    EXPECT_EQ(data.Path("CAT_IMG_Casa\\CHÃO.bmp"_w), folder.Path() / "CAT_IMG_Casa" / "CHÃO.bmp");
+    EXPECT_EQ(data.Path(""), folder.Path());
+}
+
+TEST_F(FilesTest, ListsAreSortedWithoutRegardToCaseAndHoldOnlyWhatCanBeNamedAgain) {
+    for (const char* name :
+         {"zebra.tec", "Beta.TEC", "alfa.tec", "água.tec", "alfa.cfg", "字.tec", "CAT_IMG_b/x.bmp"})
+        folder.Write(name, "");
+    std::filesystem::create_directories(folder.Path() / "CAT_IMG_A");
+    std::filesystem::create_directories(folder.Path() / "pasta.tec");
+    EXPECT_THAT(data.Files(".tec"), ElementsAre("alfa.tec", "Beta.TEC", "zebra.tec", "água.tec"_w));
+    EXPECT_THAT(data.Folders("CAT_IMG_"), ElementsAre("CAT_IMG_A", "CAT_IMG_b"));
+    EXPECT_THAT(DataFolder(folder.Path() / "nada").Files(""), IsEmpty());
 }
 
 } // namespace
