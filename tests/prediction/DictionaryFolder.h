@@ -17,9 +17,14 @@ class DictionaryFolder : public testing::Test {
             (void)folder.Write(name, "");
     }
 
+    using Files = std::initializer_list<std::pair<const char*, TextView>>;
+
     void Write(const std::string& name, TextView bytes) { (void)folder.Write(name, bytes); }
     [[nodiscard]] Text Read(const std::string& name) const { return folder.Read(name); }
-    std::vector<Text> Load(bool adapt = false) {
+    /// Loads, from these files over those that were written before; what to tell the person.
+    std::vector<Text> Load(Files files = {}, bool adapt = false) {
+        for (const auto& [name, bytes] : files)
+            Write(name, bytes);
         return dictionary.LoadProfileDictionaries(DataFolder(folder.Path()), "ana", adapt);
     }
     [[nodiscard]] Tokens Words() const {

@@ -14,8 +14,7 @@ using testing::IsEmpty;
 class DictionarySearch : public DictionaryFolder {};
 
 TEST_F(DictionarySearch, ACompleteWordIsNotItsOwnContinuation) {
-    Write("geral.pal", "casa 1\ncasaco 1\ncasar 1\ncão 1\nágua 1\n"_w);
-    (void)Load();
+    Load({{"geral.pal", "casa 1\ncasaco 1\ncasar 1\ncão 1\nágua 1\n"_w}});
     EXPECT_THAT(WithPrefix("casa"), ElementsAre("casaco", "casar"));
     EXPECT_THAT(WithPrefix("ca", 2), ElementsAre("casa", "casaco"));
     EXPECT_THAT(WithPrefix(""), IsEmpty());
@@ -26,8 +25,7 @@ TEST_F(DictionarySearch, ACompleteWordIsNotItsOwnContinuation) {
 }
 
 TEST_F(DictionarySearch, SentencesStopAtThePositionThatTheOutputHolds) {
-    Write("geral.frs", "a 1\nb|c 1\nb|d 1\nb|e 1\n");
-    (void)Load();
+    Load({{"geral.frs", "a 1\nb|c 1\nb|d 1\nb|e 1\n"}});
     EXPECT_THAT(SentencesWithPrefix("B  "), ElementsAre("b c", "b d", "b e"));
     EXPECT_THAT(SentencesWithPrefix("b", 3), ElementsAre("b c", "b d"));
     EXPECT_THAT(SentencesWithPrefix("b", 1), IsEmpty());
@@ -42,9 +40,7 @@ TEST_F(DictionarySearch, AtMostTenThousandSuccessorsAreTold) {
         words += word + " 1\n";
         pairs += "___ " + word + " 1\n";
     }
-    Write("geral.pal", words);
-    Write("geral.par", pairs);
-    (void)Load();
+    Load({{"geral.pal", words}, {"geral.par", pairs}});
     EXPECT_EQ(NextWords("___").size(), 10'000U);
     dictionary.AddUserWordPair("___", "w100000");
     EXPECT_EQ(NextWords("___").size(), 10'000U);
@@ -73,9 +69,7 @@ TEST_F(DictionarySearch, TheWholeStaysOneSortedTableWhateverThePersonAdds) {
                 pairs += first + " " + second->first + " 3\n";
             }
     }
-    Write("geral.pal", lines);
-    Write("geral.par", pairs);
-    (void)Load();
+    Load({{"geral.pal", lines}, {"geral.par", pairs}});
     for (int i = 0; i < 400; ++i) {
         const Text first = word(), second = word();
         dictionary.AddUserWord(first);
@@ -108,9 +102,7 @@ TEST_F(DictionarySearch, TheWholeStaysOneSortedTableWhateverThePersonAdds) {
 }
 
 TEST_F(DictionarySearch, AFileInDisorderIsSearchedAsItStands) {
-    Write("geral.pal", "m 1\na 2\nz 3\nz 4\nb 5\n");
-    Write("geral.par", "z a 1\nm z 2\nm a 1\n");
-    (void)Load();
+    Load({{"geral.pal", "m 1\na 2\nz 3\nz 4\nb 5\n"}, {"geral.par", "z a 1\nm z 2\nm a 1\n"}});
     EXPECT_FALSE(dictionary.GetWord("a")) << "the search turns away at the middle";
     EXPECT_EQ(dictionary.FindWord("z").position, 2);
     EXPECT_EQ(dictionary.GetWord("z").Frequency(), 3);
