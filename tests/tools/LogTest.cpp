@@ -103,27 +103,21 @@ TEST(Log, TablesAndBoardLogsAreWhatOtherProgramsExpect) {
     EXPECT_EQ(
         LogAsOpenBoardLog(log, "s", "ana", ReadLogDay("2026-02-03").value()),
         R"({"format": "open-board-log-0.1", "user_id": "ondrilo:ana", "source": "ondrilo", "locale": "pt-PT", )"
-        R"("anonymized": false, "sessions": [)"
-        "\n"
-        R"({"id": "s", "type": "log", "started": "2026-02-03T09:00:01.000", "ended": "2026-02-03T09:00:02.000", )"
-        R"("events": [)"
-        "\n"
-        R"({"id": "s:0", "timestamp": "2026-02-03T09:00:01.000", "type": "button", "label": "amanhã", )"
-        R"("spoken": true, "button_id": "1.0.2", "board_id": "Casa", "actions": [)"
-        "\n"
-        R"({"action": ":prediction", "text": "amanhã"}], "ext_ondrilo_event": "LEFT_MOUSE_DOWN_KEY", )"
+        R"("anonymized": false, "sessions": [
+{"id": "s", "type": "log", "started": "2026-02-03T09:00:01.000", "ended": "2026-02-03T09:00:02.000", )"
+        R"("events": [
+{"id": "s:0", "timestamp": "2026-02-03T09:00:01.000", "type": "button", "label": "amanhã", )"
+        R"("spoken": true, "button_id": "1.0.2", "board_id": "Casa", "actions": [
+{"action": ":prediction", "text": "amanhã"}], "ext_ondrilo_event": "LEFT_MOUSE_DOWN_KEY", )"
         R"("ext_ondrilo_type": "PREDICTED_WORD_SELECTION_0_2_amanhã", "ext_ondrilo_element": "1.0.2", )"
-        R"("ext_ondrilo_center": "310.42", "ext_ondrilo_page": "Casa", "ext_ondrilo_context": "até, \"a\""},)"
-        "\n"
-        R"({"id": "s:1", "timestamp": "2026-02-03T09:00:02.000", "type": "action", )"
+        R"("ext_ondrilo_center": "310.42", "ext_ondrilo_page": "Casa", "ext_ondrilo_context": "até, \"a\""},
+{"id": "s:1", "timestamp": "2026-02-03T09:00:02.000", "type": "action", )"
         R"("action": ":ext_ondrilo_enter", "ext_ondrilo_event": "CHAR_ENTER", "ext_ondrilo_type": "CHAR", )"
-        R"("ext_ondrilo_output": "\\n", "ext_ondrilo_page": "Casa"},)"
-        "\n"
-        R"({"id": "s:2", "timestamp": "2026-02-03T09:00:02.000", "type": "note", "text": "solta"}], )"
-        R"("ext_ondrilo_metrics": {"Numero_Cliques": "1"}, "ext_ondrilo_final_texts": [)"
-        "\n"
-        R"("a\u000a\u0009b"]}]})"
-        "\n");
+        R"("ext_ondrilo_output": "\\n", "ext_ondrilo_page": "Casa"},
+{"id": "s:2", "timestamp": "2026-02-03T09:00:02.000", "type": "note", "text": "solta"}], )"
+        R"("ext_ondrilo_metrics": {"Numero_Cliques": "1"}, "ext_ondrilo_final_texts": [
+"a\u000a\u0009b"]}]}
+)");
 }
 
 TEST(Log, ReplayTellsWrongCountsFromThoseThatEventsShowOnlyInPart) {
