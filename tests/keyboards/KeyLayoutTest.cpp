@@ -21,6 +21,12 @@ COnScreenKey MakeKey(KeyType type, TextView label = {}, TextView output = {}) {
     return key;
 }
 
+COnScreenKey Letter(TextView label) {
+    return MakeKey(KeyType::Normal, label);
+}
+
+const COnScreenKey kBlank = MakeKey(KeyType::Empty);
+
 class KeyLayout : public testing::Test {
   protected:
     KeyLayout() {
@@ -37,9 +43,10 @@ class KeyLayout : public testing::Test {
         key.letters = letters;
         return Natural(key);
     }
-    COnScreenKeyGroup& AddGroup(const std::vector<COnScreenKey>& keys) {
-        lines.back().groups.emplace_back().keys = keys;
-        return lines.back().groups.back();
+    void AddLine(const std::vector<std::vector<COnScreenKey>>& groups) {
+        lines.emplace_back();
+        for (const auto& keys : groups)
+            lines.back().groups.emplace_back().keys = keys;
     }
     void LayOut() { size = LayOutKeys(lines, settings, MeasureKeys({}, text, pictures)); }
 
@@ -96,13 +103,9 @@ TEST_F(KeyLayout, EmptyGroupsAndLinesStillTakeTheirGaps) {
     settings.keyGap = 2;
     LayOut();
     EXPECT_EQ(size, (Size{0, 6})) << "no lines, but two gaps";
-    lines.emplace_back();
-    AddGroup({MakeKey(KeyType::Normal, "a"), MakeKey(KeyType::Normal, "b")});
-    AddGroup({});
-    AddGroup({MakeKey(KeyType::Normal, "c")});
-    lines.emplace_back();
-    lines.emplace_back();
-    AddGroup({MakeKey(KeyType::Normal, "d")});
+    AddLine({{Letter("a"), Letter("b")}, {}, {Letter("c")}});
+    AddLine({});
+    AddLine({{Letter("d")}});
     LayOut();
     EXPECT_EQ(lines[0].groups[0].keys[1].place, (Rectangle{30, 0, 28, 50}));
     EXPECT_EQ(lines[0].groups[1].place, (Rectangle{63, 0, 0, 0}));
@@ -115,11 +118,8 @@ TEST_F(KeyLayout, EmptyGroupsAndLinesStillTakeTheirGaps) {
 TEST_F(KeyLayout, TheFirstKeyTakesWhatStretchingCannotShare) {
     settings.stretchLines = true;
     settings.minimumWidth = 3 * 28 + 20 + 10;
-    lines.emplace_back();
-    AddGroup({MakeKey(KeyType::Empty), MakeKey(KeyType::Normal, "a")});
-    AddGroup({MakeKey(KeyType::Normal, "b"), MakeKey(KeyType::Normal, "c")});
-    lines.emplace_back();
-    AddGroup({MakeKey(KeyType::Empty)});
+    AddLine({{kBlank, Letter("a")}, {Letter("b"), Letter("c")}});
+    AddLine({{kBlank}});
     LayOut();
     EXPECT_EQ(lines[0].groups[0].keys[0].place, (Rectangle{0, 0, 20, 20})) << "empty keys keep their size";
     EXPECT_EQ(lines[0].groups[0].keys[1].place, (Rectangle{20, 0, 32, 50}));
@@ -130,18 +130,15 @@ TEST_F(KeyLayout, TheFirstKeyTakesWhatStretchingCannotShare) {
     const Rectangle once = lines[0].groups[0].keys[1].place;
     LayOut();
     EXPECT_EQ(lines[0].groups[0].keys[1].place, once) << "laid out again";
-    lines.emplace_back();
-    AddGroup({MakeKey(KeyType::Normal, "aaaaaaaaaaaaaaaaaa")});
+    AddLine({{Letter("aaaaaaaaaaaaaaaaaa")}});
     LayOut();
     EXPECT_EQ(lines[0].place.width, 18 * 8 + 20) << "a wide line stretches the others too";
 }
 
 TEST_F(KeyLayout, EqualHeightsMakeEveryLineAsTallAsTheTallest) {
     settings.equalLineHeights = true;
-    lines.emplace_back();
-    AddGroup({MakeKey(KeyType::Image, "p.bmp"), MakeKey(KeyType::Normal, "a")});
-    lines.emplace_back();
-    AddGroup({MakeKey(KeyType::Normal, "b"), MakeKey(KeyType::Empty)});
+    AddLine({{MakeKey(KeyType::Image, "p.bmp"), Letter("a")}});
+    AddLine({{Letter("b"), kBlank}});
     LayOut();
     EXPECT_EQ(lines[0].groups[0].keys[1].place.height, 90);
     EXPECT_EQ(lines[1].groups[0].keys[0].place.height, 90);
@@ -154,9 +151,8 @@ TEST_F(KeyLayout, HugeNumbersInFilesDoNotOverflow) {
     settings.sentencePictograms = settings.groupGap = INT_MAX;
     pictures.sizes["p.bmp"] = {INT_MAX, 1};
     for (std::size_t i = 0; i < kMaximumLines; ++i) {
-        lines.emplace_back();
-        AddGroup(std::vector<COnScreenKey>(kMaximumKeys, MakeKey(KeyType::ImageSentencePrediction)));
-        AddGroup(std::vector<COnScreenKey>(kMaximumKeys, MakeKey(KeyType::Image, "p.bmp:p.bmp")));
+        AddLine({std::vector(kMaximumKeys, MakeKey(KeyType::ImageSentencePrediction)),
+                 std::vector(kMaximumKeys, MakeKey(KeyType::Image, "p.bmp:p.bmp"))});
         lines.back().groups[0].keys[0].letters = INT_MIN;
     }
     LayOut();
