@@ -131,6 +131,7 @@ TEST(SystemOptions, AreWrittenOnlyIfChangedAndEvenReadingThePrioritiesIsAChange)
     (void)options.GetPriorities();
     ASSERT_TRUE(options.Save());
     EXPECT_EQ(folder.Read("configsis"), options.Format());
+    EXPECT_FALSE(options.IsChanged());
 
     options.Load(folder.Path() / "no such folder" / "configsis");
     options.Set(system_option::ADAPTACAO_CONTEXTO, 1);

@@ -319,6 +319,7 @@ TEST_F(LearningJournalTest, AProfileKeptInMemoryIsCoveredToo) {
     End();
     EXPECT_FALSE(HasJournal());
     EXPECT_THAT(folder.Read("ana.pal"), HasSubstr("casa 1\n"));
+    EXPECT_THAT(told, IsEmpty());
 }
 
 } // namespace
