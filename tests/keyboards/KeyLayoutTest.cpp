@@ -135,12 +135,14 @@ TEST_F(KeyLayout, TheFirstKeyTakesWhatStretchingCannotShare) {
     EXPECT_EQ(lines[0].place.width, 18 * 8 + 20) << "a wide line stretches the others too";
 }
 
-TEST_F(KeyLayout, EqualHeightsMakeEveryLineAsTallAsTheTallest) {
-    settings.equalLineHeights = true;
+TEST_F(KeyLayout, KeysAreAsTallAsTheirLineOrAsTheTallestIfHeightsAreEqual) {
     AddLine({{MakeKey(KeyType::Image, "p.bmp"), Letter("a")}});
     AddLine({{Letter("b"), kBlank}});
     LayOut();
     EXPECT_EQ(lines[0].groups[0].keys[1].place.height, 90);
+    EXPECT_EQ(size.height, 90 + 50);
+    settings.equalLineHeights = true;
+    LayOut();
     EXPECT_EQ(lines[1].groups[0].keys[0].place.height, 90);
     EXPECT_EQ(lines[1].groups[0].keys[1].place.height, 20);
     EXPECT_EQ(size.height, 180);
