@@ -3,14 +3,11 @@
 #include "dialogs/CSystemOptionsDlg.h"
 #include "dialogs/CUserDlg.h"
 #include "platform/qt/PortugueseTexts.h"
-#include "tests/support/FakeDesktop.h"
-#include "tests/support/FakeMessageBoxes.h"
+#include "tests/widgets/DialogFixture.h"
 
-#include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QScreen>
-#include <QTest>
 #include <QTimer>
 #include <gmock/gmock.h>
 
@@ -19,12 +16,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-struct Record : UserRecord {
-    void DialogOpened(int number) override { numbers.push_back(number); }
-    void DialogClosed(int number) override { numbers.push_back(-number); }
-    std::vector<int> numbers;
-};
 
 struct Sources : SystemOptionSources {
     [[nodiscard]] std::vector<Text> ProfileNames() const override { return {"generico", "ana"}; }
@@ -36,32 +27,18 @@ struct Sources : SystemOptionSources {
     bool passes = false;
 };
 
-class DialogsTest : public testing::Test {
+class DialogsTest : public DialogFixture {
   protected:
     /// Runs a dialog while the person does something in it; what they leave open is cancelled.
     bool Run(BaseDialog& dialog, const std::function<void()>& person) {
         QTimer::singleShot(0, &dialog, [&] {
-            EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.focusWidget() != nullptr; }));
+            WaitForFocus(dialog);
             person();
             if (dialog.isVisible())
                 dialog.reject();
         });
         return dialog.Run();
     }
-    static QWidget* Front() { return QApplication::activeModalWidget(); }
-    /// A key where the focus is.
-    static void Press(Qt::Key key) { QTest::keyClick(Front()->focusWidget(), key); }
-    static void Type(const char* text) { QTest::keyClicks(Front()->focusWidget(), text); }
-    static void Click(const char* name) { Front()->findChild<QAbstractButton*>(name)->click(); }
-    template <typename Widget>
-    static Widget& Find(const char* name) {
-        return *Front()->findChild<Widget*>(name);
-    }
-
-    FakeDesktop desktop;
-    FakeMessageBoxes boxes;
-    Record record;
-    DialogHost host{desktop, boxes, record};
 };
 
 TEST_F(DialogsTest, ATypedNameChoosesTheFirstRowThatBeginsWithItAndNoOther) {
@@ -109,13 +86,13 @@ TEST_F(SystemOptionsDialogTest, WhatIsNoneOfTheChoicesIsKeptAndCancelKeepsEveryt
         "PERFIL_UTILIZADOR_ARRANQUE rui\nPORTA_GPS COM1\nPAPEL_COMUNICACAO_COOPERATIVA 1\n"
         "NOME_SERVIDOR_COMUNICACAO_COOPERATIVA sala\nLISTA_PRIORIDADES_ADAPTACAO_CONTEXTO ana;;;rui\n");
     const auto before = options.Format();
-    EXPECT_TRUE(Edit([] {
+    EXPECT_TRUE(Edit([this] {
         EXPECT_FALSE(Find<QLineEdit>("serverName").isEnabled());
         Click("okButton");
     }));
     EXPECT_EQ(options.Format(), before);
 
-    const auto change = [] {
+    const auto change = [this] {
         for (const auto* name : {"contextAdaptation", "adaptWhenLeaving", "clientRole", "clearSuggestions"})
             Click(name);
         Find<QComboBox>("gpsPort").setCurrentText("com2");
@@ -181,6 +158,12 @@ TEST_F(SystemOptionsDialogTest, TheLockTurnsOnlyForWhoPassesItAndOnlyWithOk) {
 }
 
 TEST_F(SystemOptionsDialogTest, ADialogInADialogIsCentredOnItAndGivesTheFocusBackToIt) {
+    struct : UserRecord {
+        void DialogOpened(int number) override { numbers.push_back(number); }
+        void DialogClosed(int number) override { numbers.push_back(-number); }
+        std::vector<int> numbers;
+    } opened;
+    const DialogHost host{desktop, boxes, opened};
     desktop.foreground = 77; // the outer dialog is not yet known to have the focus
     CSystemOptionsDlg outer(host, options, sources);
     (void)Run(outer, [&] {
@@ -194,13 +177,13 @@ TEST_F(SystemOptionsDialogTest, ADialogInADialogIsCentredOnItAndGivesTheFocusBac
         outer.close();
     });
     EXPECT_EQ(desktop.foreground, 77U);
-    EXPECT_THAT(record.numbers, ElementsAre(133, 132, -132, -133));
+    EXPECT_THAT(opened.numbers, ElementsAre(133, 132, -132, -133));
 }
 
 TEST_F(SystemOptionsDialogTest, WithLargeLettersItFitsTheScreenAndTabReachesAndShowsEverything) {
     const auto font = QApplication::font();
     QApplication::setFont(QFont(font.family(), 30));
-    (void)Edit([] {
+    (void)Edit([this] {
         const auto area = Front()->screen()->availableSize();
         EXPECT_LE(Front()->height(), area.height());
         EXPECT_LE(Front()->width(), area.width());

@@ -1,15 +1,11 @@
 #include "dialogs/options/CUserProfileOptionsPSheet.h"
 #include "dialogs/options/ColorField.h"
-#include "tests/support/FakeDesktop.h"
-#include "tests/support/FakeMessageBoxes.h"
 #include "tests/support/FakeSpeechEngine.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/widgets/DialogFixture.h"
 
-#include <QAbstractButton>
 #include <QColorDialog>
-#include <QTest>
 #include <QTimer>
-#include <gtest/gtest.h>
 
 #include <memory>
 
@@ -27,28 +23,17 @@ struct Choices : ProfileOptionSources {
     DataFolder data{folder.Path()};
 };
 
-struct ProfileOptionsTest : testing::Test {
+struct ProfileOptionsTest : DialogFixture {
     ProfileOptionsTest() { choices.speech.voices = {"Voz da Casa"}; }
     void Open() {
-        sheet = std::make_unique<CUserProfileOptionsPSheet>(PersonalOptions{properties, access}, choices,
-                                                            DialogHost{desktop, boxes, record});
-        sheet->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(sheet.get()));
+        sheet =
+            std::make_unique<CUserProfileOptionsPSheet>(PersonalOptions{properties, access}, choices, host);
+        Show(*sheet);
     }
-    template <typename Control>
-    Control* Find(TextView name) {
-        const auto found = sheet->findChildren<Control*>(QString::fromStdString(Text(name)));
-        EXPECT_EQ(found.size(), 1) << name;
-        return found.empty() ? nullptr : found.front();
-    }
-    void Click(TextView name) { Find<QAbstractButton>(name)->click(); }
 
     CUserProfileProperties properties;
     CAccessOptions access;
     Choices choices;
-    FakeDesktop desktop;
-    FakeMessageBoxes boxes;
-    UserRecord record;
     std::unique_ptr<CUserProfileOptionsPSheet> sheet;
 };
 
@@ -94,9 +79,9 @@ TEST_F(ProfileOptionsTest, EachOptionHasOneControlWhoseChangeReachesItsOwnLineOf
         properties = {};
         const auto before = properties.Format();
         Open();
-        auto* control = Find<QWidget>(row.key);
-        ASSERT_TRUE(control && Change(control)) << row.key;
-        EXPECT_FALSE(control->accessibleName().isEmpty()) << row.key;
+        auto& control = Find<QWidget>(row.key);
+        ASSERT_TRUE(Change(&control)) << row.key;
+        EXPECT_FALSE(control.accessibleName().isEmpty()) << row.key;
         EXPECT_EQ(properties.Format(), before) << "before OK";
         Click("okButton");
         auto after = properties.Format();
@@ -111,7 +96,7 @@ TEST_F(ProfileOptionsTest, CancelLeavesEverythingAsItWas) {
     const auto before = properties.Format() + access.Format();
     Open();
     for (const auto key : {"ALTURA_TECLAS", "NOME_TECLADO", "TIPO_PREENCHIMENTO_TECLA", "TEMPO_PERMANENCIA"})
-        Change(Find<QWidget>(key));
+        Change(&Find<QWidget>(key));
     Click("cancelButton");
     EXPECT_EQ(properties.Format() + access.Format(), before);
 }
@@ -126,8 +111,8 @@ TEST_F(ProfileOptionsTest, ValuesOfAnotherHandSurviveUntouchedAndOnlyTimesAreBro
     properties.Parse("VELOCIDADE_VARRIMENTO 2960\nLATENCIA_INTERRUPTORES_VARRIMENTO -100\n");
     access.Parse("TEMPO_PERMANENCIA 1234");
     Open();
-    EXPECT_EQ(Find<QComboBox>("NOME_TECLADO")->currentText(), "Perdido (não disponível)");
-    EXPECT_EQ(Find<QSpinBox>("ALTURA_TECLAS")->value(), 900);
+    EXPECT_EQ(Find<QComboBox>("NOME_TECLADO").currentText(), "Perdido (não disponível)");
+    EXPECT_EQ(Find<QSpinBox>("ALTURA_TECLAS").value(), 900);
     Click("okButton");
     EXPECT_EQ(properties.Get(option::VELOCIDADE_VARRIMENTO), 3000);
     EXPECT_EQ(properties.Get(option::LATENCIA_INTERRUPTORES_VARRIMENTO), 0);
@@ -138,17 +123,15 @@ TEST_F(ProfileOptionsTest, ValuesOfAnotherHandSurviveUntouchedAndOnlyTimesAreBro
 
 TEST_F(ProfileOptionsTest, TheKeyboardAloneReachesAPageAndATypedTimeIsBroughtToTicks) {
     Open();
-    auto* areas = Find<QListWidget>("areas");
-    areas->setFocus();
-    QTest::keyClicks(areas, "Varr");
-    auto* speed = Find<QSpinBox>("VELOCIDADE_VARRIMENTO");
-    ASSERT_TRUE(speed->isVisible());
-    for (int tabs = 0; tabs < 10 && !speed->hasFocus(); ++tabs)
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    ASSERT_TRUE(speed->hasFocus());
-    speed->selectAll();
-    QTest::keyClicks(speed, "1260");
-    QTest::keyClick(speed, Qt::Key_Return);
+    Find<QListWidget>("areas").setFocus();
+    Type("Varr");
+    auto& speed = Find<QSpinBox>("VELOCIDADE_VARRIMENTO");
+    ASSERT_TRUE(speed.isVisible());
+    for (int tabs = 0; tabs < 10 && !speed.hasFocus(); ++tabs)
+        Press(Qt::Key_Tab);
+    ASSERT_TRUE(speed.hasFocus());
+    speed.selectAll();
+    Type("1260\r");
     EXPECT_EQ(sheet->result(), QDialog::Accepted);
     EXPECT_EQ(properties.Get(option::VELOCIDADE_VARRIMENTO), 1300);
 }
@@ -157,16 +140,16 @@ TEST_F(ProfileOptionsTest, TimeSpansAreRemovedOnlyWhenOneIsChosenAndTheAnswerIsY
     properties.Set(option::INTERVALOS_TEMPO_SABADO, "08:00-09:00;10:00-11:00;22:00-02:00");
     properties.Set(option::IDENTIFICADOR_ETIQUETA_BLUETOOTH, "a b");
     Open();
-    auto* list = Find<QListWidget>("INTERVALOS_TEMPO_SABADO");
+    auto& list = Find<QListWidget>("INTERVALOS_TEMPO_SABADO");
     Click("remove_INTERVALOS_TEMPO_DOMINGO");
-    list->setCurrentRow(0, QItemSelectionModel::NoUpdate); // as the focus does
+    list.setCurrentRow(0, QItemSelectionModel::NoUpdate); // as the focus does
     Click("remove_INTERVALOS_TEMPO_SABADO");
-    list->setCurrentRow(1);
+    list.setCurrentRow(1);
     boxes.answers = {Answer::No, Answer::Yes, Answer::Yes};
     Click("remove_INTERVALOS_TEMPO_SABADO");
-    EXPECT_EQ(list->count(), 3);
+    EXPECT_EQ(list.count(), 3);
     Click("remove_INTERVALOS_TEMPO_SABADO");
-    EXPECT_EQ(list->currentRow(), 0);
+    EXPECT_EQ(list.currentRow(), 0);
     Click("clearTags");
     const Text question = "Quer mesmo apagar este intervalo de tempo?";
     EXPECT_EQ(
@@ -183,18 +166,17 @@ TEST_F(ProfileOptionsTest, AVoiceThatIsNotListedStaysChosenAndVoicesMayComeLate)
     access.SetCueVoice("Voz Levada");
     choices.speech.voices.clear();
     Open();
-    auto* voice = Find<QComboBox>("NOME_SINTETIZADOR_FALA");
-    EXPECT_EQ(voice->currentText(), "Voz Tardia");
+    EXPECT_EQ(Find<QComboBox>("NOME_SINTETIZADOR_FALA").currentText(), "Voz Tardia");
     Click("okButton");
     EXPECT_EQ(properties.Get(option::NOME_SINTETIZADOR_FALA), "Voz Tardia");
 
     Open();
     choices.speech.voices = {"Voz da Casa", "Voz Tardia"};
-    voice = Find<QComboBox>("NOME_SINTETIZADOR_FALA");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return voice->count() == 3; }));
-    EXPECT_EQ(voice->itemText(0), "Nenhum");
-    EXPECT_EQ(voice->currentText(), "Voz Tardia");
-    EXPECT_EQ(Find<QComboBox>("VOZ_PISTAS")->currentText(), "Voz Levada (não disponível)");
+    const auto& voice = Find<QComboBox>("NOME_SINTETIZADOR_FALA");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return voice.count() == 3; }));
+    EXPECT_EQ(voice.itemText(0), "Nenhum");
+    EXPECT_EQ(voice.currentText(), "Voz Tardia");
+    EXPECT_EQ(Find<QComboBox>("VOZ_PISTAS").currentText(), "Voz Levada (não disponível)");
     Click("okButton");
     EXPECT_EQ(properties.Get(option::NOME_SINTETIZADOR_FALA), "Voz Tardia");
     EXPECT_EQ(access.CueVoice(), "Voz Levada");
@@ -210,10 +192,10 @@ TEST_F(ProfileOptionsTest, AVoiceIsTriedInTheMannerOfTheDraftAndAbsentValuesStay
     EXPECT_EQ(boxes.shown, (std::vector{noVoice, noVoice}));
     EXPECT_TRUE(choices.speech.said.empty());
 
-    Find<QComboBox>("NOME_SINTETIZADOR_FALA")->setCurrentIndex(1);
+    Find<QComboBox>("NOME_SINTETIZADOR_FALA").setCurrentIndex(1);
     Click("TOM_FALA_absent");
     Click("VOLUME_FALA_absent");
-    Find<QSpinBox>("VOLUME_FALA")->setValue(70);
+    Find<QSpinBox>("VOLUME_FALA").setValue(70);
     Click("hearVoice");
     EXPECT_EQ(choices.speech.said.back().voice, "Voz da Casa");
     EXPECT_EQ(choices.speech.said.back().manner, (SpeechManner{std::nullopt, std::nullopt, 70}));

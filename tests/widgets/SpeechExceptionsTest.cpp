@@ -1,47 +1,28 @@
 #include "dialogs/CSpeechSynthesizerExceptionsDlg.h"
-#include "tests/support/FakeDesktop.h"
-#include "tests/support/FakeMessageBoxes.h"
 #include "tests/support/FakeSpeechEngine.h"
 #include "tests/support/TemporaryFolder.h"
-
-#include <QAbstractButton>
-#include <QTest>
-#include <gtest/gtest.h>
+#include "tests/widgets/DialogFixture.h"
 
 #include <optional>
 
 namespace ondrilo {
 namespace {
 
-class SpeechExceptionsTest : public testing::Test {
+class SpeechExceptionsTest : public DialogFixture {
   protected:
     void Open(TextView file) {
         folder.Write("Ana_text_exceptions.txt", file);
-        dialog.emplace(DialogHost{desktop, boxes, record}, engine, DataFolder(folder.Path()), "Ana",
-                       SpeechManner{});
-        dialog->show();
-        dialog->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&*dialog));
-    }
-    template <typename Widget>
-    Widget& Find(const char* name) {
-        return *dialog->findChild<Widget*>(name);
+        dialog.emplace(host, engine, DataFolder(folder.Path()), "Ana", SpeechManner{});
+        Show(*dialog);
     }
     /// As the mouse does: the button takes the focus.
     void Click(const char* name) { QTest::mouseClick(&Find<QAbstractButton>(name), Qt::LeftButton); }
-    /// Into whatever has the focus.
-    void Type(const char* keys) {
-        for (; *keys; ++keys)
-            QTest::keyClick(QApplication::focusWidget(), *keys);
-    }
+    [[nodiscard]] QLineEdit& Replacement() { return Find<QLineEdit>("replacementField"); }
+    [[nodiscard]] QListWidget& Rows() { return Find<QListWidget>("exceptions"); }
     [[nodiscard]] Text File() const { return folder.Read("Ana_text_exceptions.txt"); }
-    [[nodiscard]] std::vector<Text> Shown() { return std::exchange(boxes.shown, {}); }
 
     TemporaryFolder folder;
     FakeSpeechEngine engine;
-    FakeDesktop desktop;
-    FakeMessageBoxes boxes;
-    UserRecord record;
     std::optional<CSpeechSynthesizerExceptionsDlg> dialog;
 };
 
@@ -54,14 +35,14 @@ TEST_F(SpeechExceptionsTest, ANewExceptionIsWrittenStepByStepAndCancelUndoesNoth
     Type("a: be ce");
     Click("hearButton");
     EXPECT_EQ(engine.said.back().text, "a be ce") << "a colon could not be read back";
-    EXPECT_EQ(Find<QListWidget>("exceptions").currentItem()->text(), "abc:a be ce");
+    EXPECT_EQ(Rows().currentItem()->text(), "abc:a be ce");
     EXPECT_EQ(File(), "abc:a be ce\nbd:bom dia\n");
 
     Click("newButton");
     Type("BD\r");
     EXPECT_EQ(Shown(), std::vector<Text>{Text("Já existe essa excepção!"_w)});
-    EXPECT_EQ(Find<QLineEdit>("replacementField").text(), "bom dia");
-    Find<QLineEdit>("replacementField").selectAll();
+    EXPECT_EQ(Replacement().text(), "bom dia");
+    Replacement().selectAll();
     Type("abc");
     Click("hearButton");
     EXPECT_EQ(engine.said.back().text, "a be ce") << "the replacement is itself replaced";
@@ -72,16 +53,15 @@ TEST_F(SpeechExceptionsTest, ANewExceptionIsWrittenStepByStepAndCancelUndoesNoth
 
 TEST_F(SpeechExceptionsTest, AChangedReplacementStaysWithItsTextWhereverTheFocusGoes) {
     Open("bd:bom dia\nobg:obrigado\n");
-    auto& rows = Find<QListWidget>("exceptions");
-    rows.setCurrentRow(0);
-    Find<QLineEdit>("replacementField").setFocus();
+    Rows().setCurrentRow(0);
+    Replacement().setFocus();
     Type("!");
-    QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, rows.visualItemRect(rows.item(1)).center());
+    QTest::mouseClick(Rows().viewport(), Qt::LeftButton, {}, Rows().visualItemRect(Rows().item(1)).center());
     EXPECT_EQ(File(), "bd:bom dia!\nobg:obrigado\n");
-    EXPECT_EQ(Find<QLineEdit>("replacementField").text(), "obrigado");
-    Find<QLineEdit>("replacementField").setFocus();
+    EXPECT_EQ(Replacement().text(), "obrigado");
+    Replacement().setFocus();
     Type("!");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_N, Qt::AltModifier);
+    Press(Qt::Key_N, Qt::AltModifier);
     QTRY_VERIFY(Find<QLineEdit>("textField").hasFocus());
     EXPECT_EQ(File(), "bd:bom dia!\nobg:obrigado!\n");
     Type(" \t");
@@ -92,16 +72,15 @@ TEST_F(SpeechExceptionsTest, AChangedReplacementStaysWithItsTextWhereverTheFocus
 
 TEST_F(SpeechExceptionsTest, ARowIsRemovedOnlyWhenOneIsSelectedAndTheAnswerIsYes) {
     Open("a:1\nb:2\nc:3\n");
-    auto& rows = Find<QListWidget>("exceptions");
     Click("removeButton");
-    rows.setCurrentRow(2);
+    Rows().setCurrentRow(2);
     boxes.answers = {Answer::No, Answer::Yes, Answer::Yes, Answer::Yes};
     Click("removeButton");
-    EXPECT_EQ(rows.count(), 3);
+    EXPECT_EQ(Rows().count(), 3);
     Click("removeButton");
-    EXPECT_EQ(rows.currentRow(), 1);
-    EXPECT_EQ(Find<QLineEdit>("replacementField").text(), "2");
-    rows.setCurrentRow(0);
+    EXPECT_EQ(Rows().currentRow(), 1);
+    EXPECT_EQ(Replacement().text(), "2");
+    Rows().setCurrentRow(0);
     Click("removeButton");
     EXPECT_EQ(File(), "b:2\n");
     EXPECT_EQ(Find<QLineEdit>("textField").text(), "b");

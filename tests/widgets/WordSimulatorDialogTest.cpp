@@ -1,12 +1,7 @@
 #include "dialogs/CWordPredictionSimulatorDlg.h"
-#include "tests/support/FakeDesktop.h"
-#include "tests/support/FakeMessageBoxes.h"
+#include "tests/widgets/DialogFixture.h"
 
-#include <QTest>
 #include <QTimer>
-#include <gtest/gtest.h>
-
-#include <utility>
 
 namespace ondrilo {
 namespace {
@@ -42,26 +37,21 @@ struct Paints : QObject {
     int count = 0;
 };
 
-TEST(WordSimulatorDialog, ARunIsPaintedWhileNothingIsAnswered) {
-    SlowSimulator simulator;
-    FakeDesktop desktop;
-    FakeMessageBoxes boxes;
-    UserRecord record;
-    CWordPredictionSimulatorDlg dialog({desktop, boxes, record}, simulator);
-    const auto click = [&](const char* name) {
-        dialog.findChild<QAbstractButton*>(name)->click();
-    };
-    auto* bar = dialog.findChild<QProgressBar*>("progress");
-    dialog.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+using WordSimulatorDialog = DialogFixture;
 
-    click("startButton");
-    click("clipboardButton");
-    click("startButton");
+TEST_F(WordSimulatorDialog, ARunIsPaintedWhileNothingIsAnswered) {
+    SlowSimulator simulator;
+    CWordPredictionSimulatorDlg dialog(host, simulator);
+    Show(dialog);
+    const auto& bar = Find<QProgressBar>("progress");
+
+    Click("startButton");
+    Click("clipboardButton");
+    Click("startButton");
     EXPECT_EQ(simulator.runs, 0) << "there is no text yet";
     simulator.copied = "/tmp/ClipboardFile.tmp";
-    click("clipboardButton");
-    EXPECT_EQ(dialog.findChild<QLabel*>("sourceName")->text(), "Clipboard");
+    Click("clipboardButton");
+    EXPECT_EQ(Find<QLabel>("sourceName").text(), "Clipboard");
 
     Paints paints;
     dialog.installEventFilter(&paints);
@@ -70,21 +60,21 @@ TEST(WordSimulatorDialog, ARunIsPaintedWhileNothingIsAnswered) {
     std::vector<int> onBar;
     simulator.duringRun = [&] {
         EXPECT_FALSE(handled);
-        click("startButton");
+        Click("startButton");
         EXPECT_GT(std::exchange(paints.count, 0), 0);
-        onBar.push_back(bar->value());
+        onBar.push_back(bar.value());
     };
-    click("type_2");
-    click("startButton");
+    Click("type_2");
+    Click("startButton");
     EXPECT_EQ(onBar, (std::vector<int>{0, 1}));
     EXPECT_EQ(simulator.runs, 1);
     EXPECT_EQ(simulator.choices.type, 2);
     EXPECT_EQ(simulator.choices.text, "/tmp/ClipboardFile.tmp");
     EXPECT_FALSE(simulator.choices.saveResults);
-    EXPECT_EQ(bar->value(), 2);
-    EXPECT_EQ(dialog.findChild<QLabel*>("indicator_1")->text(), "7");
-    EXPECT_EQ(dialog.findChild<QPlainTextEdit*>("writtenText")->toPlainText(), "olá tudo ");
-    EXPECT_TRUE(dialog.findChild<QPushButton*>("startButton")->isEnabled());
+    EXPECT_EQ(bar.value(), 2);
+    EXPECT_EQ(Find<QLabel>("indicator_1").text(), "7");
+    EXPECT_EQ(Find<QPlainTextEdit>("writtenText").toPlainText(), "olá tudo ");
+    EXPECT_TRUE(Find<QPushButton>("startButton").isEnabled());
 }
 
 } // namespace
