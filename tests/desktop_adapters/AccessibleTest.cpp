@@ -1,6 +1,5 @@
 #include "Support.h"
 #include "platform/qt/AccessibleBus.h"
-#include "platform/qt/NativePixels.h"
 #include "platform/qt/QtDesktop.h"
 #include "platform/x11/X11KeyOutput.h"
 
@@ -15,7 +14,6 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
-#include <cstdlib>
 
 namespace ondrilo {
 
@@ -73,16 +71,6 @@ class AnotherProgram : public testing::Test {
         ASSERT_TRUE(Eventually([this] { return IsInside(texts.CaretPosition()); }));
     }
 
-    void Type(TextView text) {
-        for (const char c : text)
-            keys.TypeCharacter(c);
-    }
-    void Tap(std::initializer_list<int> codes) {
-        for (const int code : codes) {
-            keys.KeyDown(code);
-            keys.KeyUp(code);
-        }
-    }
     [[nodiscard]] bool IsInside(Point point) const { return desktop.ClientArea(window).Contains(point); }
     /// Waits for the caret to stand right of a place, and tells where.
     Point CaretRightOf(Point place) const {
@@ -133,25 +121,22 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_P(AnyEditor, TellsTheCaretsPlaceAndTheRealTextAfterKeysAndClicks) {
     Start(GetParam().command, GetParam().title);
     const Point empty = texts.CaretPosition();
-    Type("Olá"_w);
+    Type(keys, "Olá"_w);
     ExpectParagraph("Olá"_w, 3);
     const Point afterWord = CaretRightOf(empty);
-    Type(", avó €"_w);
+    Type(keys, ", avó €"_w);
     ExpectParagraph("Olá, avó €"_w, 10);
     CaretRightOf(afterWord);
-    Tap({vk::Enter});
+    Tap(keys, {vk::Enter});
     EXPECT_TRUE(Eventually([&] { return texts.CaretPosition().x < afterWord.x; }));
     ExpectParagraph("", 0);
-    Type("à noite"_w);
-    Tap({vk::Home, vk::Right});
+    Type(keys, "à noite"_w);
+    Tap(keys, {vk::Home, vk::Right});
     ExpectParagraph("à noite"_w, 1);
-    Tap({vk::Up, vk::End, vk::Left});
+    Tap(keys, {vk::Up, vk::End, vk::Left});
     ExpectParagraph("Olá, avó €"_w, 9);
 
-    const Point place = ToNative({afterWord.x, afterWord.y + 5});
-    const auto click =
-        "xdotool mousemove " + std::to_string(place.x) + " " + std::to_string(place.y) + " click 1";
-    ASSERT_EQ(std::system(click.c_str()), 0);
+    Click(desktop, {afterWord.x, afterWord.y + 5});
     EXPECT_TRUE(Eventually([&] { return std::abs(texts.CaretPosition().x - afterWord.x) <= 1; }));
     ExpectParagraph("Olá, avó €"_w, 3);
 }
@@ -162,28 +147,28 @@ class ABox : public AnotherProgram {
 };
 
 TEST_F(ABox, IsToldToBeSecretAsLongAsAPasswordIsWrittenThere) {
-    Type("um");
+    Type(keys, "um");
     ExpectParagraph("um", 2);
     EXPECT_FALSE(texts.IsPassword());
-    Tap({vk::Tab});
+    Tap(keys, {vk::Tab});
     ASSERT_TRUE(Eventually([&] { return texts.IsPassword(); }));
     bool isRead = false;
     texts.ReadParagraph([&](const auto&) { isRead = true; });
-    Type("dois");
+    Type(keys, "dois");
     PassTime(300);
     EXPECT_TRUE(texts.IsPassword());
     EXPECT_FALSE(isRead);
-    Tap({vk::Tab});
+    Tap(keys, {vk::Tab});
     EXPECT_TRUE(Eventually([&] { return !texts.IsPassword(); }));
     ExpectParagraph("um", 2);
 }
 
 TEST_F(ABox, ThatHangsOrDiesHoldsUpNobody) {
-    Type("um");
+    Type(keys, "um");
     ExpectParagraph("um", 2);
     const auto process = static_cast<pid_t>(desktop.ProcessOf(window));
     kill(process, SIGSTOP);
-    Type(" dois");
+    Type(keys, " dois");
     QElapsedTimer time;
     time.start();
     texts.Follow(static_cast<std::uint32_t>(process));

@@ -9,7 +9,6 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <unistd.h>
 
 namespace ondrilo {
@@ -22,11 +21,9 @@ class TheDesktop : public testing::Test {
         ours.setWindowTitle(QString::fromUtf8("Olá – €"));
         ours.show();
         theirs = WaitForWindow(desktop, "Avó"_w);
-        hasBoth = WaitForWindow(desktop, "Olá – €"_w) != 0 && GiveFocus(desktop, theirs);
     }
-    void Click(Point point) {
-        desktop.MovePointer(point);
-        ASSERT_EQ(std::system("xdotool click 1"), 0);
+    void SetUp() override {
+        ASSERT_TRUE(WaitForWindow(desktop, "Olá – €"_w) != 0 && GiveFocus(desktop, theirs));
     }
 
     QtDesktop desktop;
@@ -34,11 +31,9 @@ class TheDesktop : public testing::Test {
     std::unique_ptr<ChildProcess> terminal = std::make_unique<ChildProcess>(
         std::vector<std::string>{"env", "LC_ALL=C.UTF-8", "xterm", "-T", "Avó", "-e", "cat"});
     WindowId theirs = 0;
-    bool hasBoth = false;
 };
 
 TEST_F(TheDesktop, WindowsAreKnownByTitleAndProgram) {
-    ASSERT_TRUE(hasBoth);
     const WindowId own = ours.winId();
     EXPECT_EQ(desktop.TitleOf(own, 3), "Olá"_w);
     EXPECT_TRUE(desktop.IsOurs(own));
@@ -52,7 +47,6 @@ TEST_F(TheDesktop, WindowsAreKnownByTitleAndProgram) {
 }
 
 TEST_F(TheDesktop, AFocusChangeIsToldAlsoToNobodyAndNeverAfterItsRegistration) {
-    ASSERT_TRUE(hasBoth);
     PassTime(50); // the terminal's own arrival is told before the registration
     std::vector<WindowId> told;
     const auto isTold = [&](WindowId window) {
@@ -64,7 +58,7 @@ TEST_F(TheDesktop, AFocusChangeIsToldAlsoToNobodyAndNeverAfterItsRegistration) {
     desktop.Activate(theirs);
     EXPECT_TRUE(isTold(theirs));
     const auto screen = desktop.ScreenArea({});
-    Click({screen.width - 5, screen.height - 5});
+    Click(desktop, {screen.width - 5, screen.height - 5});
     EXPECT_TRUE(isTold(0)) << "the bare desktop takes it from everybody";
     PassTime(50);
     registration.reset();
@@ -76,7 +70,6 @@ TEST_F(TheDesktop, AFocusChangeIsToldAlsoToNobodyAndNeverAfterItsRegistration) {
 }
 
 TEST_F(TheDesktop, AMessageBoxTakesTheFocusAndGivesItBackToTheProgramThatHadIt) {
-    ASSERT_TRUE(hasBoth);
     QtMessageBoxes boxes(desktop);
     bool hadFocus = false;
     QTimer::singleShot(0, [&] {
@@ -100,17 +93,16 @@ TEST_F(TheDesktop, ThePointerMovesAndStaysOnAScreen) {
 }
 
 TEST_F(TheDesktop, PointerAndWindowsOfOthersArePlacedInTheSamePixels) {
-    ASSERT_TRUE(hasBoth && GiveFocus(desktop, ours.winId()));
+    ASSERT_TRUE(GiveFocus(desktop, ours.winId()));
     const auto area = desktop.ClientArea(theirs);
-    const Point middle{area.x + area.width / 2, area.y + area.height / 2};
     ours.setGeometry(area.x, area.y, 60, 30);
     const auto corner = [&] {
         return Point{ours.geometry().right(), ours.geometry().bottom()};
     };
     EXPECT_TRUE(Eventually([&] { return desktop.IsUnder(ours.winId(), corner()); }));
     EXPECT_FALSE(desktop.IsUnder(theirs, corner())) << "ours is over it";
-    EXPECT_TRUE(desktop.IsUnder(theirs, middle));
-    Click(middle);
+    EXPECT_TRUE(desktop.IsUnder(theirs, Middle(area)));
+    Click(desktop, Middle(area));
     EXPECT_TRUE(Eventually([&] { return desktop.ForegroundWindow() == theirs; }));
 }
 

@@ -8,7 +8,6 @@
 #include <QPushButton>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <dlfcn.h>
 
 namespace ondrilo {
@@ -24,15 +23,15 @@ class AHook : public testing::Test {
     AHook() {
         SetLayout("pt");
         target = WaitForWindow(desktop, "watched");
-        isReady = Eventually([this] { return std::filesystem::exists(file); }) &&
-                  GiveFocus(desktop, target) && Watch();
         keys.OnAnnounce(QtTargetHook::Expect);
+    }
+    void SetUp() override {
+        ASSERT_TRUE(Eventually([this] { return std::filesystem::exists(file); }));
+        ASSERT_TRUE(GiveFocus(desktop, target));
+        ASSERT_TRUE(hook.InitializeHook(target, [this](const MessageEvent& event) { Note(event); }));
     }
     ~AHook() override { EXPECT_EQ(server.Down(), std::vector<int>{}) << "a key stayed down"; }
 
-    bool Watch() {
-        return hook.InitializeHook(target, [this](const MessageEvent& event) { Note(event); });
-    }
     void Note(const MessageEvent& event) {
         switch (event.message) {
         case Message::UM_KEY_DOWN:
@@ -65,14 +64,7 @@ class AHook : public testing::Test {
         server.PersonTaps(keycode);
         server.PersonReleases(modifier);
     }
-    void Click(Point point) {
-        desktop.MovePointer(point);
-        ASSERT_EQ(std::system("xdotool click 1"), 0);
-    }
-    [[nodiscard]] Point Middle(WindowId window) const {
-        const auto area = desktop.ClientArea(window);
-        return {area.x + area.width / 2, area.y + area.height / 2};
-    }
+    void ClickInside(WindowId window) { Click(desktop, Middle(desktop.ClientArea(window))); }
 
     const TemporaryFolder folder;
     const std::string file = (folder.Path() / "received").string();
@@ -85,11 +77,9 @@ class AHook : public testing::Test {
     WindowId target = 0;
     Text told;
     Text written; ///< the characters told
-    bool isReady = false;
 };
 
 TEST_F(AHook, TellsThePersonsKeysAndWhatTheProgramMakesOfThem) {
-    ASSERT_TRUE(isReady);
     server.PersonTaps(ServerKeyboard::kA);
     PersonTapsWith(ServerKeyboard::kShift, ServerKeyboard::kB);
     ExpectTold(" +65 a -65 +16 +shift 66 B -66 -16");
@@ -107,9 +97,7 @@ TEST_F(AHook, TellsThePersonsKeysAndWhatTheProgramMakesOfThem) {
 }
 
 TEST_F(AHook, TellsOurLettersAsTheStrokesThatTheyCountForAndNothingOfModifiersThatWeLift) {
-    ASSERT_TRUE(isReady);
-    keys.TypeCharacter('e');
-    keys.TypeCharacter("é"_w.front());
+    Type(keys, "eé"_w);
     ExpectTold(" +69 e -69 +186 +69 é -69 -186"_w);
     keys.TypeCharacter('\n');
     ExpectTold(" +13 13 -13");
@@ -122,22 +110,29 @@ TEST_F(AHook, TellsOurLettersAsTheStrokesThatTheyCountForAndNothingOfModifiersTh
     ExpectReached("eé\rãA");
 }
 
+TEST_F(AHook, TheTerminalReceivesAccentsOnEveryLayout) {
+    std::string all;
+    for (const char* layout : {"pt", "us"}) {
+        SetLayout(layout);
+        Type(keys, kSentence);
+        all += ToUtf8(kSentence);
+        ExpectReached(all);
+    }
+}
+
 TEST_F(AHook, ASwallowedKeyIsToldAndNothingThatIsTypedWhileItIsHeldGetsLost) {
-    ASSERT_TRUE(isReady);
     hook.AddSpecialKey(kVirtualF11);
     PassTime(100);
     Text typed;
     for (int round = 0; round < 10; ++round) {
         server.PersonPresses(kF11);
-        for (const char c : "Não há só"_w)
-            keys.TypeCharacter(c);
+        Type(keys, "Não há só"_w);
         server.PersonReleases(kF11);
         typed += "Não há só"_w;
     }
     ExpectReached(ToUtf8(typed)); // or the person's Shift may overtake the last letters
     PersonTapsWith(ServerKeyboard::kShift, kF11);
-    keys.KeyDown(kVirtualF11);
-    keys.KeyUp(kVirtualF11);
+    Tap(keys, {kVirtualF11});
     EXPECT_TRUE(Eventually([&] { return told.ends_with("+16 +shift 122 -122 -16 +122 -122"); }))
         << ToUtf8(told);
     EXPECT_EQ(ToUtf8(written), ToUtf8(typed));
@@ -149,7 +144,6 @@ TEST_F(AHook, ASwallowedKeyIsToldAndNothingThatIsTypedWhileItIsHeldGetsLost) {
 }
 
 TEST_F(AHook, AKilledWatcherLeavesNoKeySwallowed) {
-    ASSERT_TRUE(isReady);
     hook.TerminateHook();
     Dl_info library{};
     ASSERT_NE(dladdr(reinterpret_cast<void*>(&InitializeHook), &library), 0);
@@ -180,7 +174,6 @@ TEST_F(AHook, AKilledWatcherLeavesNoKeySwallowed) {
 }
 
 TEST_F(AHook, WhatThePersonDoesInAnotherProgramIsNeitherToldNorSwallowed) {
-    ASSERT_TRUE(isReady);
     QPushButton button("outra");
     button.show();
     const auto other = button.winId();
@@ -188,23 +181,22 @@ TEST_F(AHook, WhatThePersonDoesInAnotherProgramIsNeitherToldNorSwallowed) {
     QObject::connect(&button, &QPushButton::clicked, [&] { ++clicks; });
     hook.AddMouseButtons();
     ASSERT_TRUE(GiveFocus(desktop, other));
-    Click(Middle(other));
+    ClickInside(other);
     EXPECT_TRUE(Eventually([&] { return clicks == 1; }));
     server.PersonTaps(ServerKeyboard::kA);
     PassTime(100);
     EXPECT_EQ(told, "");
-    Click(Middle(target));
+    ClickInside(target);
     ExpectTold(" button 1 button 2");
     EXPECT_EQ(desktop.ForegroundWindow(), other) << "the click reached the terminal";
     hook.DeleteMouseButtons();
     PassTime(50);
-    Click(Middle(target));
+    ClickInside(target);
     EXPECT_TRUE(Eventually([&] { return desktop.ForegroundWindow() == target; }));
     ExpectTold(" button 1 button 2");
 }
 
 TEST_F(AHook, AReceiverThatWaitsInADialogStopsNoLaterEventAndTheEndOfTheWatchStopsAll) {
-    ASSERT_TRUE(isReady);
     int drained = 0;
     hook.OnHandled([&] { ++drained; });
     int received = 0;

@@ -87,6 +87,28 @@ WindowId WaitForWindow(const Desktop& desktop, TextView title) {
     return found;
 }
 
+void Type(KeyOutput& keys, TextView text) {
+    for (const char c : text)
+        keys.TypeCharacter(c);
+}
+
+void Tap(KeyOutput& keys, std::initializer_list<int> codes) {
+    for (const int code : codes) {
+        keys.KeyDown(code);
+        keys.KeyUp(code);
+    }
+}
+
+void Click(Desktop& desktop, Point point) {
+    desktop.MovePointer(point);
+    if (std::system("xdotool click 1") != 0)
+        std::abort();
+}
+
+Point Middle(const Rectangle& area) {
+    return {area.x + area.width / 2, area.y + area.height / 2};
+}
+
 void SetLayout(const std::string& layout) {
     const auto command = "setxkbmap -layout " + layout;
     if (std::system(command.c_str()) != 0)

@@ -5,6 +5,7 @@
 #include "text/Text.h"
 
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <sys/types.h>
@@ -35,7 +36,6 @@ class ChildProcess {
 
 /// The roles that this test program plays when it is started again by one of its tests.
 inline constexpr auto kHoldShift = "--hold-shift"; ///< lends spare keycodes, presses Shift and stays
-inline constexpr auto kHoldLock = "--hold-lock";   ///< takes the lock of the file that follows and stays
 inline constexpr auto kTextBoxes = "--text-boxes"; ///< shows a text and a password under that title
 /// This program, in that role.
 [[nodiscard]] std::vector<std::string> Ourselves(const std::vector<std::string>& arguments);
@@ -47,6 +47,15 @@ int ShowTextBoxes(int argc, char** argv);
 [[nodiscard]] bool GiveFocus(Desktop& desktop, WindowId window);
 /// Waits for a top-level window with that title; 0 if none comes.
 [[nodiscard]] WindowId WaitForWindow(const Desktop& desktop, TextView title);
+
+/// What most layouts have no keys for, among what they have.
+inline constexpr TextView kSentence = "comunicações É ç «x» € Ç à ~ ^ [1] {2} \"3\" ü º @"_w;
+void Type(KeyOutput& keys, TextView text);
+/// One key after the other, by virtual codes.
+void Tap(KeyOutput& keys, std::initializer_list<int> codes);
+/// As the person's mouse does.
+void Click(Desktop& desktop, Point point);
+[[nodiscard]] Point Middle(const Rectangle& area);
 
 /// Sets the X server's layout.
 void SetLayout(const std::string& layout);

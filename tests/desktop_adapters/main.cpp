@@ -1,5 +1,4 @@
 #include "Support.h"
-#include "platform/linux/FlockInstanceLock.h"
 #include "platform/x11/X11KeyOutput.h"
 
 #include <QApplication>
@@ -40,14 +39,6 @@ namespace {
         pause();
 }
 
-[[noreturn]] void HoldLock(const char* file) {
-    FlockInstanceLock lock;
-    if (!lock.Acquire(file))
-        _exit(EXIT_FAILURE);
-    while (true)
-        pause();
-}
-
 } // namespace
 } // namespace ondrilo
 
@@ -55,8 +46,6 @@ int main(int argc, char** argv) {
     const std::string_view role = argc > 1 ? argv[1] : "";
     if (role == ondrilo::kHoldShift)
         ondrilo::HoldShift();
-    if (role == ondrilo::kHoldLock && argc > 2)
-        ondrilo::HoldLock(argv[2]);
     if (role == ondrilo::kTextBoxes)
         return ondrilo::ShowTextBoxes(argc, argv);
     testing::InitGoogleTest(&argc, argv);
