@@ -1,8 +1,6 @@
 #!/usr/bin/python3
 """A therapist sets the program up for Rita without touching a file, tries it, and locks it."""
 
-import subprocess
-
 from desktop import Program, wait_for
 from dialogs import Dialog, choose
 from story import expect, play, prepare_data, use_words
@@ -35,14 +33,6 @@ def choose_options(ondrilo):
     wait_for(lambda: 'rita (LetrasAcentos)' in ondrilo.title(), 'the keyboard that was chosen')
 
 
-def colour_of(ondrilo, key):
-    place = ondrilo.place(ondrilo.key(key))
-    corner = '1x1+%d+%d' % (place.x + place.width - 4, place.y + place.height - 5)
-    pixel = subprocess.run(['import', '-window', 'root', '-crop', corner, '-depth', '8', 'rgb:-'], check=True,
-                           capture_output=True).stdout
-    return '#' + pixel.hex()
-
-
 def add_words(ondrilo):
     choose(ondrilo, 'Perfil', 'Dicionário do Perfil', 'Palavras e Pictogramas...')
     words = Dialog(ondrilo, 'Palavras e Pictogramas')
@@ -61,7 +51,7 @@ def write(desktop, ondrilo):
     ondrilo.click('b')
     wait_for(lambda: ondrilo.keys()[:2] == ['bola', 'bom'], 'two predictions')
     expect('beber' not in ondrilo.keys(), 'a third word was predicted')
-    wait_for(lambda: colour_of(ondrilo, 'bola') == ORANGE, 'the colour of the prediction keys')
+    wait_for(lambda: ondrilo.colour('bola') == ORANGE, 'the colour of the prediction keys')
     ondrilo.click('d')
     desktop.press('Tab')
     ondrilo.expect_text('bom dia ')

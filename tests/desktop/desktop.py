@@ -114,6 +114,12 @@ class Desktop:
     def xdotool(self, *words):
         return subprocess.run(['xdotool', *map(str, words)], check=True, capture_output=True, text=True).stdout
 
+    def hold(self, key):
+        """Long enough for a switch, with its latency and ticks."""
+        self.xdotool('keydown', key)
+        time.sleep(0.4)
+        self.xdotool('keyup', key)
+
     def press(self, *keys):
         """Key names of X, such as "F1" or "shift+a", one after the other."""
         self.xdotool('key', '--delay', '60', *keys)
@@ -142,7 +148,7 @@ class Program:
     """The running program as a person meets it."""
 
     NAME = 'ondrilo'
-    LIT = (0x1B, 0x2A, 0x41)
+    LIT = '#1b2a41'
 
     def __init__(self, desktop, path):
         self.desktop = desktop
@@ -208,17 +214,27 @@ class Program:
     def click(self, name, button=1):
         self.click_element(self.key(name), button)
 
-    def click_element(self, element, button=1):
+    def centre(self, element):
         place = self.place(element)
-        self.desktop.click(place.x + place.width // 2, place.y + place.height // 2, button)
+        return place.x + place.width // 2, place.y + place.height // 2
 
-    def is_lit(self, name):
-        """Whether the key shows the colours of a lit one (COR_LETRAS of the delivered profile behind)."""
+    def click_element(self, element, button=1):
+        self.desktop.click(*self.centre(element), button)
+
+    def rest_on(self, name):
+        self.desktop.xdotool('mousemove', *self.centre(self.key(name)))
+
+    def colour(self, name):
+        """Of the key's background, as "#rrggbb"."""
         place = self.place(self.key(name))
         corner = '1x1+%d+%d' % (place.x + 4, place.y + place.height - 5)
         pixel = subprocess.run(['import', '-window', 'root', '-crop', corner, '-depth', '8', 'rgb:-'], check=True,
                                capture_output=True).stdout
-        return tuple(pixel) == self.LIT
+        return '#' + pixel.hex()
+
+    def is_lit(self, name):
+        """Whether the key shows the colours of a lit one (COR_LETRAS of the delivered profile behind)."""
+        return self.colour(name) == self.LIT
 
     def editor(self):
         editor = next(iter(self.all(lambda e: e.get_role() == self.atspi.Role.TEXT and e.get_editable_text_iface())),

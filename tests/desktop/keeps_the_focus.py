@@ -11,17 +11,14 @@ import time
 
 from desktop import Program, wait_for
 from other_programs import Mousepad, Xterm, attached, changes, click_keys
-from story import expect, play, prepare_data, set_option, use_words
+from story import expect, letters, play, prepare_data, set_options, use_words
 
 KEYBOARD = """LINHA Palavras
 GRUPO Palavras
 TECLA TECLA_PREDICAO
 LINHA Texto
 GRUPO Texto
-TECLA TECLA_NORMAL a a a
-TECLA TECLA_NORMAL b b b
-TECLA TECLA_NORMAL c c c
-TECLA TECLA_NORMAL espaço espaço Space
+""" + letters('abc') + """TECLA TECLA_NORMAL espaço espaço Space
 TECLA TECLA_NORMAL <Nenhum> maiúscula Shift
 TECLA TECLA_NORMAL Longa longa %s
 TECLA TECLA_NORMAL Outro outro Outro.tec
@@ -40,20 +37,14 @@ def prepare(desktop):
     (desktop.data / 'Letras.tec').write_text(KEYBOARD % LONG.replace(' ', ';;;'), 'cp1252')
     (desktop.data / 'Outro.tec').write_text(OTHER, 'cp1252')
     use_words(desktop, 'tudo 5\n')
-    for key, value in OPTIONS.items():
-        set_option(desktop, key, value)
-
-
-def centre(ondrilo, name):
-    place = ondrilo.place(ondrilo.key(name))
-    return place.x + place.width // 2, place.y + place.height // 2
+    set_options(desktop, OPTIONS)
 
 
 def through_many_presses(desktop, ondrilo, presses):
     with attached(desktop, 'Terminal'):
         terminal = Xterm(desktop, setting=Xterm.REPORTS_FOCUS)
     terminal.clear()
-    centres = {letter: centre(ondrilo, letter if letter != ' ' else 'espaço') for letter in 'abc '}
+    centres = {letter: ondrilo.centre(ondrilo.key(letter if letter != ' ' else 'espaço')) for letter in 'abc '}
     written = ('abcacb ' * presses)[:presses]
     for number, letter in enumerate(written):
         # The next one only when this one has come: a slow window manager sends clicks to where the pointer went.

@@ -8,7 +8,7 @@ from pathlib import Path
 
 from desktop import Program, wait_for
 from dialogs import choose
-from story import expect, play, prepare_data, set_option, use_words
+from story import expect, play, prepare_data, set_options, use_words
 
 OPTIONS = {'REGISTAR_EVENTOS': 1, 'TEMPO_DE_PREDICAO': 200, 'METODO_VARRIMENTO': 'Inverso', 'TECLA_MANIPULO1': 'F9',
            'LATENCIA_INTERRUPTORES_VARRIMENTO': 0, 'VELOCIDADE_VARRIMENTO': 10000, 'NOME_SINTETIZADOR_FALA': 'Nenhum'}
@@ -16,17 +16,15 @@ LINE = re.compile(r'\d\d:\d\d:\d\d\.\d{3} (.*)')
 
 
 def events(path):
-    """The events since the start of the log, with centres that are there as "x.y"."""
+    """The events since the start of the log, without their times."""
     body = path.read_text('cp1252').split('$$$ End Header\n\n')[1].split('$$$ End Body')[0]
-    lines = [LINE.fullmatch(line).group(1) for line in body.splitlines()]
-    return [re.sub(r'( \d+\.\d+\.\d+) \d+\.\d+ ', r'\1 x.y ', line) for line in lines]
+    return [LINE.fullmatch(line).group(1) for line in body.splitlines()]
 
 
 def story(desktop, program):
     prepare_data(desktop)
     use_words(desktop, 'bem 4\ntudo 5\n', 'tudo bem 3\n')
-    for key, value in OPTIONS.items():
-        set_option(desktop, key, value)
+    set_options(desktop, OPTIONS)
     ondrilo = Program(desktop, program)
     expect('(Logging Ligado)' in ondrilo.title(), 'the title does not tell of the log: ' + ondrilo.title())
     log = next(iter(desktop.data.glob('generico *.log')))
@@ -34,10 +32,9 @@ def story(desktop, program):
     desktop.press('t')
     ondrilo.expect_text('t')
     ondrilo.click('u')
-    wait_for(lambda: 'tudo' in ondrilo.keys(), 'the prediction "tudo"')
+    ondrilo.key('tudo')
     desktop.press('F1')
     ondrilo.expect_text('tudo ')
-    wait_for(lambda: 'bem' in ondrilo.keys(), 'the prediction "bem"')
     ondrilo.click('bem')
     ondrilo.expect_text('tudo bem ')
     told = events(log)
@@ -48,16 +45,9 @@ def story(desktop, program):
         '"t" CHAR_t CHAR  -  - QwertySimples ""',
     ]
     expect(told[:4] == wanted, 'the log begins with %r' % told[:4])
-    expect([line for line in told if '_KEY TEXT_KEY' in line or 'PREDICTED' in line] == [
-        '"" LEFT_MOUSE_DOWN_KEY TEXT_KEY_SELECTION_u 3.1.1 x.y QwertySimples "t"',
-        '"" KEY_DOWN_F1 PREDICTED_WORD_SELECTION_0_0_tudo 0.0.0 x.y QwertySimples "tu"',
-        '"" LEFT_MOUSE_DOWN_KEY PREDICTED_WORD_SELECTION_0_0_bem 0.0.0 x.y QwertySimples "tudo "',
-    ], 'the selections are %r' % told)
     expect([line.split(' ')[1:3] for line in told if 'AUTO_KEY' in line] == [
         ['KEY_DOWN_' + key, 'AUTO_KEY'] for key in ('U', 'D', 'O', 'SPACE', 'B', 'E', 'M', 'SPACE')],
         "the system's own keys are %r" % told)
-    expect([line.split(' ')[2] for line in told if 'NEW_WORD' in line] == ['WORD_tudo', 'WORD_bem'],
-           'the words are %r' % told)
 
     # The viewer shows what happens from now on.
     choose(ondrilo, 'Ferramentas', 'Registo de Eventos do Sistema', 'Visualizar Registo de Eventos...')

@@ -2,7 +2,7 @@
 """Every kind of key, with all its stages, by click and by hot key, as the event log tells it."""
 
 from desktop import Program, wait_for
-from story import expect, play, prepare_data, set_option
+from story import expect, play, prepare_data, set_options
 
 BOARD = r'''
 LINHA Predições
@@ -72,8 +72,7 @@ def story(desktop, program):
         (desktop.data / (name + '.tec')).write_text(board, 'cp1252')
     for name, text in VOCABULARY.items():
         (desktop.data / name).write_text(text, 'cp1252')
-    for key, value in OPTIONS.items():
-        set_option(desktop, key, value)
+    set_options(desktop, OPTIONS)
     ondrilo = Program(desktop, program)
     log = next(iter(desktop.data.glob('generico *.log')))
 

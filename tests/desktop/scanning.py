@@ -4,12 +4,10 @@
 The switches are real keys. What is lit is looked up on the screen.
 """
 
-import shutil
-import subprocess
 import time
 
 from desktop import Program, wait_for
-from story import expect, play, prepare_data, set_option, use_words
+from story import copy_profile, expect, play, prepare_data, set_option, set_options, use_words
 
 KEYBOARD = """LINHA Palavras
 GRUPO Palavras
@@ -33,7 +31,6 @@ ONLY_KEY = """LINHA Perfil
 GRUPO Perfil
 TECLA TECLA_NORMAL Perfil perfil [Alterar-Perfil-Utilizador;;;regular]
 """
-LIT = (0x1B, 0x2A, 0x41)  # COR_LETRAS of the profile, the background of lit keys
 PAD_6 = 85  # the key itself: for its symbol xdotool would press and release modifiers too
 
 
@@ -42,41 +39,30 @@ def prepare(desktop):
     (desktop.data / 'Manipulos.tec').write_text(KEYBOARD, 'cp1252')
     (desktop.data / 'outro.tec').write_text(ONLY_KEY, 'cp1252')
     use_words(desktop, 'olaria 4\n')
-    for key, value in {'NOME_TECLADO': 'Manipulos', 'METODO_VARRIMENTO': 'Passo-a-Passo', 'TECLA_MANIPULO1': 'F9',
-                       'TECLA_MANIPULO2': 'Num6', 'VELOCIDADE_VARRIMENTO': 2000,
-                       'NUMERO_MAXIMO_CICLOS_VARRIMENTO': 5}.items():
-        set_option(desktop, key, value)
-    for file in desktop.data.glob('generico.*'):
-        shutil.copy(file, desktop.data / ('regular' + file.suffix))
+    set_options(desktop, {'NOME_TECLADO': 'Manipulos', 'METODO_VARRIMENTO': 'Passo-a-Passo', 'TECLA_MANIPULO1': 'F9',
+                          'TECLA_MANIPULO2': 'Num6', 'VELOCIDADE_VARRIMENTO': 2000,
+                          'NUMERO_MAXIMO_CICLOS_VARRIMENTO': 5})
+    copy_profile(desktop, 'regular')
     set_option(desktop, 'METODO_VARRIMENTO', 'Regular', 'regular')
-    with (desktop.data / 'utils').open('a') as profiles:
-        profiles.write('regular\n')
 
 
 def story(desktop, program):
     prepare(desktop)
     ondrilo = Program(desktop, program)
 
-    def is_lit(name):
-        extents = ondrilo.key(name).get_extents(ondrilo.atspi.CoordType.SCREEN)
-        pixel = subprocess.run(['import', '-window', 'root', '-crop',
-                                '1x1+%d+%d' % (extents.x + 4, extents.y + extents.height - 5), '-depth', '8', 'rgb:-'],
-                               check=True, capture_output=True).stdout
-        return tuple(pixel) == LIT
-
     def wait_lit(lit, dark):
-        wait_for(lambda: is_lit(lit) and not is_lit(dark), '"%s" lit and "%s" dark' % (lit, dark))
+        wait_for(lambda: ondrilo.is_lit(lit) and not ondrilo.is_lit(dark), '"%s" lit and "%s" dark' % (lit, dark))
 
-    def switch(key):
-        desktop.xdotool('keydown', key)
-        time.sleep(0.4)  # longer than latency and ticks
-        desktop.xdotool('keyup', key)
+    def step(times=1):
+        for _ in range(times):
+            desktop.hold('F9')
+
+    def pick(times=1):
+        for _ in range(times):
+            desktop.hold(PAD_6)
 
     desktop.press('Num_Lock')
-    step, pick = (lambda: switch('F9')), (lambda: switch(PAD_6))
-
-    step()
-    step()
+    step(2)
     wait_lit('o', 'apagar')
     pick()
     wait_lit('o', 'l')
@@ -84,33 +70,26 @@ def story(desktop, program):
     wait_lit('o', 'a')
     pick()
     ondrilo.expect_text('o')
-    wait_for(lambda: 'olaria' in ondrilo.keys(), 'the prediction "olaria"')
+    ondrilo.key('olaria')
     step()
     pick()
     wait_lit('olaria', 'o')
     pick()
     ondrilo.expect_text('olaria ')
-    for _ in range(3):
-        step()
+    step(3)
     wait_lit('outro', 'o')
-    pick()
-    pick()
+    pick(2)
     ondrilo.expect_text('')
-    for _ in range(3):
-        step()
+    step(3)
     pick()
-    step()
-    step()
+    step(2)
     pick()
-    wait_for(lambda: is_lit('maiúscula'), 'the Shift')
-    step()
-    step()
-    for _ in range(3):
-        pick()
+    wait_for(lambda: ondrilo.is_lit('maiúscula'), 'the Shift')
+    step(2)
+    pick(3)
     ondrilo.expect_text('O')
-    expect(not is_lit('maiúscula'), 'the key of the Shift stayed lit')
-    for _ in range(3):
-        step()
+    expect(not ondrilo.is_lit('maiúscula'), 'the key of the Shift stayed lit')
+    step(3)
     pick()
     step()
     wait_lit('outro', 'apagar')
@@ -120,15 +99,15 @@ def story(desktop, program):
     wait_for(lambda: 'regular (Manipulos)' in ondrilo.title(), 'the profile "regular"')
     time.sleep(0.7)  # the target is attached half a second after the session's start
 
-    switch('F9')
+    step()
     wait_lit('o', 'apagar')
-    switch('F9')
+    step()
     wait_lit('o', 'l')
     wait_lit('l', 'o')
-    switch('F9')
+    step()
     wait_lit('l', 't')
     wait_lit('t', 'l')
-    switch('F9')
+    step()
     ondrilo.expect_text('t')
     expect(ondrilo.quit() == 0, 'the program did not end well')
 

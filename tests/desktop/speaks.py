@@ -10,7 +10,7 @@ import signal
 import time
 
 from desktop import Program, wait_for
-from story import expect, play, prepare_data, set_option, use_words
+from story import expect, play, prepare_data, set_options, use_words
 
 RECORDER = """#!/bin/sh
 printf '%%s|%%s|%%s\\n' "$@" >>'%(folder)s/said'
@@ -77,8 +77,7 @@ def writes(desktop, program, speech):
     speech.expect('Teclado de letras')
     desktop.press('o')
     speech.expect('o')
-    for key in ('l', 'á', 'space'):
-        desktop.xdotool('key', {'á': 'aacute'}.get(key, key))
+    desktop.press('l', 'aacute', 'space')
     speech.expect('olá')
     for key in ('v', 'e', 'm'):
         desktop.press(key)
@@ -99,8 +98,7 @@ def writes(desktop, program, speech):
     speech.expect('sim')
     expect(speech.said().count(sentence) == 2, 'what was cut off by the death was repeated')
 
-    place = ondrilo.place(ondrilo.key('Maiúscula'))
-    desktop.xdotool('mousemove', place.x + place.width // 2, place.y + place.height // 2)
+    ondrilo.rest_on('Maiúscula')
     speech.expect('Maiúscula')
     expect(ondrilo.quit() == 0, 'the program did not end well')
 
@@ -108,9 +106,7 @@ def writes(desktop, program, speech):
 def scans(desktop, program, speech):
     ondrilo = Program(desktop, program)
     time.sleep(0.5)
-    desktop.xdotool('keydown', 'F9')
-    time.sleep(0.4)  # longer than latency and ticks
-    desktop.xdotool('keyup', 'F9')
+    desktop.hold('F9')
     speech.expect('Palavras previstas', 'Portuguese (Brazil)|30')
     expect(ondrilo.quit() == 0, 'the program did not end well')
 
@@ -118,14 +114,12 @@ def scans(desktop, program, speech):
 def story(desktop, program):
     prepare_data(desktop)
     use_words(desktop)
-    for key in ('OUVIR_LETRAS', 'OUVIR_PALAVRAS', 'OUVIR_FRASES', 'OUVIR_COM_RATO_SOBRE'):
-        set_option(desktop, key, 1)
+    set_options(desktop, {'OUVIR_LETRAS': 1, 'OUVIR_PALAVRAS': 1, 'OUVIR_FRASES': 1, 'OUVIR_COM_RATO_SOBRE': 1})
     speech = Speech(desktop)
     writes(desktop, program, speech)
 
-    for key, value in {'METODO_VARRIMENTO': 'Passo-a-Passo', 'TECLA_MANIPULO1': 'F9',
-                       'PISTA_SINTETIZADA_VARRIMENTO': 1}.items():
-        set_option(desktop, key, value)
+    set_options(desktop, {'METODO_VARRIMENTO': 'Passo-a-Passo', 'TECLA_MANIPULO1': 'F9',
+                          'PISTA_SINTETIZADA_VARRIMENTO': 1})
     (desktop.data / 'generico.acs').write_text('VOZ_PISTAS Portuguese;;;(Brazil);;;-;;;espeak-ng\nVOLUME_PISTAS 30\n')
     scans(desktop, program, speech)
 

@@ -35,10 +35,27 @@ def set_option(desktop, key, value, profile='generico'):
     path.write_text('\n'.join(lines) + '\n', 'cp1252')
 
 
+def set_options(desktop, options):
+    for key, value in options.items():
+        set_option(desktop, key, value)
+
+
+def copy_profile(desktop, name):
+    for file in desktop.data.glob('generico.*'):
+        shutil.copy(file, desktop.data / (name + file.suffix))
+    with (desktop.data / 'utils').open('a') as profiles:
+        profiles.write(name + '\n')
+
+
 def use_words(desktop, words='', pairs=''):
     """The whole general vocabulary: each line a word, or two, and how often it is used."""
     for ending, lines in {'pal': words, 'par': pairs, 'frs': '', 'paf': ''}.items():
         (desktop.data / ('geral.' + ending)).write_text(lines, 'cp1252')
+
+
+def letters(text):
+    """A key for each, in a keyboard file."""
+    return ''.join('TECLA TECLA_NORMAL %s %s %s\n' % (letter, letter, letter) for letter in text)
 
 
 def expect(condition, what):
