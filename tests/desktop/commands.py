@@ -39,26 +39,19 @@ TECLA TECLA_NORMAL Teclas sequência {Ctrl+a;;;Ctrl+c;;;Enter;;;a;;;Shift+b;;;Ta
 TECLA TECLA_NORMAL Mal mal {Ctrl+Shift+;;;+Alt;;;{}}
 GRUPO Programas
 TECLA TECLA_NORMAL Guiao guião FOLDER/faz;;;isto.sh
-TECLA TECLA_NORMAL Programa programa Prova.desktop
 """
 BACK = 'LINHA Volta\nGRUPO Volta\nTECLA TECLA_NORMAL Volta volta Comandos.tec\n'
 
 
 def prepare(desktop):
     prepare_data(desktop)
-    proof = desktop.folder / 'prova'
-    (desktop.folder / 'faz isto.sh').write_text('echo guião >>%s\n' % proof)
-    applications = desktop.data.parents[1] / 'applications'
-    applications.mkdir()
-    (applications / 'Prova.desktop').write_text(
-        '[Desktop Entry]\nType=Application\nName=Prova\nExec=sh -c "echo programa >>%s"\n' % proof)
+    (desktop.folder / 'faz isto.sh').write_text('echo guião >>%s\n' % (desktop.folder / 'prova'))
     (desktop.data / 'Comandos.tec').write_text(KEYBOARD.replace('FOLDER', str(desktop.folder)), 'cp1252')
     (desktop.data / 'outro.tec').write_text(BACK, 'cp1252')
     use_words(desktop, 'pato 9\npêra 8\nporta 7\nprato 6\n')
     # "Tab" is to be written.
     set_options(desktop, {'NOME_TECLADO': 'Comandos', 'TECLA_EXPANSAO_ABREVIATURAS': 'Num9'})
     copy_profile(desktop, 'ana')
-    return proof
 
 
 def commands(desktop, ondrilo):
@@ -92,7 +85,7 @@ def commands(desktop, ondrilo):
     expect('REGISTAR_EVENTOS 1\n' in (desktop.data / 'generico.cfg').read_text('cp1252'), 'the option was not saved')
 
 
-def beside_another_program(desktop, ondrilo, proof):
+def beside_another_program(desktop, ondrilo):
     time.sleep(0.7)  # the target is attached half a second after the session's start
     for key in ('a', 'p', 'a'):
         ondrilo.click(key)
@@ -112,9 +105,8 @@ def beside_another_program(desktop, ondrilo, proof):
     click('sequência')
     terminal.expect_bytes(b'\x01\x03\raB\t\x1b[D')
     click('guião')
+    proof = desktop.folder / 'prova'
     wait_for(lambda: proof.exists() and proof.read_text() == 'guião\n', 'the script')
-    click('programa')
-    wait_for(lambda: proof.read_text() == 'guião\nprograma\n', 'the application')
     terminal.expect_bytes(b'\x01\x03\raB\t\x1b[D')
     ondrilo.expect_text('apa')
     click('ana')
@@ -123,10 +115,10 @@ def beside_another_program(desktop, ondrilo, proof):
 
 
 def story(desktop, program):
-    proof = prepare(desktop)
+    prepare(desktop)
     ondrilo = Program(desktop, program)
     commands(desktop, ondrilo)
-    terminal = beside_another_program(desktop, ondrilo, proof)
+    terminal = beside_another_program(desktop, ondrilo)
 
     for number in (signal.SIGINT, signal.SIGTERM, signal.SIGKILL):
         ondrilo.click_element(ondrilo.editor())

@@ -9,7 +9,7 @@ import shutil
 import sys
 from pathlib import Path
 
-from desktop import Desktop, Failure, Program
+from desktop import Desktop, Failure, Program, wait_for
 
 
 def main():
@@ -21,20 +21,25 @@ def main():
         ondrilo = Program(desktop, program)
         for key in ('Maiúscula', 'o', 'l'):
             ondrilo.click(key)
+        wait_for(lambda: 'olá' in ondrilo.keys(), 'the prediction "olá"')
         ondrilo.click('olá')
         ondrilo.expect_text('Olá ')
         desktop.press('t', 'u', 'd')
+        wait_for(lambda: 'tudo' in ondrilo.keys(), 'the prediction "tudo"')
         ondrilo.click('tudo')
         ondrilo.expect_text('Olá tudo ')
         desktop.press('b', 'e', 'm')
         ondrilo.click('Ponto de interrogação')
         desktop.press('space')
-        for key in ('Maiúscula', 'q', 'u', 'e'):
-            ondrilo.click(key)
-        ondrilo.key('quero')
+        ondrilo.click('Maiúscula')
+        ondrilo.click('q')
+        ondrilo.click('u')
+        ondrilo.click('e')
+        wait_for(lambda: 'quero' in ondrilo.keys(), 'the prediction "quero"')
         desktop.picture(folder / 'ecra.png')
         ondrilo.click('quero')
         desktop.press('a', 'j', 'u')
+        wait_for(lambda: 'ajuda' in ondrilo.keys(), 'the prediction "ajuda"')
         ondrilo.click('ajuda')
         ondrilo.expect_text('Olá tudo bem? Quero ajuda ')
         (folder / 'texto.txt').write_text(ondrilo.text() + '\n')

@@ -20,8 +20,6 @@ TEST(Conversion, EveryByteOfTheCodePageSurvivesQt) {
         all += static_cast<char>(byte);
     EXPECT_EQ(FromQString(ToQString(all)), all);
     EXPECT_EQ(FromQString(QString::fromUtf8("Ω a")), "? a");
-    EXPECT_EQ(ToQColor(0x0000FF), QColor(Qt::red));
-    EXPECT_EQ(ToQColor(0x123456), QColor(0x56, 0x34, 0x12));
 }
 
 TEST(Timers, TicksKeepTheirPaceAlsoInsideADialogOfATickAndEndWithTheirTimer) {

@@ -69,17 +69,5 @@ TEST_F(EntryListDialog, NothingIsRemovedWithoutASelectionAndNothingChangesByBein
     EXPECT_EQ(Shown().back(), "Lista de frases vazia!");
 }
 
-TEST_F(EntryListDialog, AnExpansionIsTypedRightAfterItsAbbreviation) {
-    AbbreviationList abbreviations(dictionary.abbreviations);
-    Open(abbreviations);
-    Type("bd\rbom dia\rObg\rmuito obrigado");
-    Press(Qt::Key_Return);
-    EXPECT_EQ(Rows(), (QStringList{"bd : bom dia", "obg : muito obrigado"}));
-    EXPECT_EQ(dictionary.abbreviations.Find("obg"), "muito obrigado");
-    EXPECT_TRUE(dialog->isVisible());
-    Click("okButton");
-    EXPECT_EQ(dialog->result(), QDialog::Accepted);
-}
-
 } // namespace
 } // namespace ondrilo

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QEvent>
 #include <QImage>
 #include <QPainter>
+#include <QWidget>
 
 #include <algorithm>
 #include <functional>
@@ -37,6 +39,19 @@ inline QRect InkOf(const QImage& image, QRgb ground = qRgb(255, 255, 255)) {
 inline int CountPixels(const QImage& image, QRgb color) {
     return PixelsWhere(image, [color](QRgb pixel) { return pixel == color; }).second;
 }
+
+/// Counts the paints of a widget.
+class PaintCounter : public QObject {
+  public:
+    explicit PaintCounter(QWidget* widget) { widget->installEventFilter(this); }
+    int paints = 0;
+
+  private:
+    bool eventFilter(QObject*, QEvent* event) override {
+        paints += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
 
 /// A one-coloured picture file.
 inline void SavePicture(const std::string& path, QSize size, QColor color) {

@@ -19,19 +19,6 @@ using testing::IsEmpty;
 
 constexpr Milliseconds kDot{300}, kRest{400}, kRepeat{4000}, kDwellStep{25};
 
-/// Counts the paints of a widget.
-class PaintCounter : public QObject {
-  public:
-    explicit PaintCounter(QWidget* widget) { widget->installEventFilter(this); }
-    int paints = 0;
-
-  private:
-    bool eventFilter(QObject*, QEvent* event) override {
-        paints += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-};
-
 class KeyboardWidgetTest : public testing::Test {
   protected:
     KeyboardWidgetTest() {

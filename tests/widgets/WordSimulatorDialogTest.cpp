@@ -1,5 +1,6 @@
 #include "dialogs/CWordPredictionSimulatorDlg.h"
 #include "tests/widgets/DialogFixture.h"
+#include "tests/widgets/Images.h"
 
 #include <QTimer>
 
@@ -28,15 +29,6 @@ struct SlowSimulator : Simulator {
     int runs = 0;
 };
 
-/// How often a window was painted.
-struct Paints : QObject {
-    bool eventFilter(QObject*, QEvent* event) override {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-    int count = 0;
-};
-
 using WordSimulatorDialog = DialogFixture;
 
 TEST_F(WordSimulatorDialog, ARunIsPaintedWhileNothingIsAnswered) {
@@ -53,15 +45,14 @@ TEST_F(WordSimulatorDialog, ARunIsPaintedWhileNothingIsAnswered) {
     Click("clipboardButton");
     EXPECT_EQ(Find<QLabel>("sourceName").text(), "Clipboard");
 
-    Paints paints;
-    dialog.installEventFilter(&paints);
+    PaintCounter onDialog(&dialog);
     bool handled = false;
     QTimer::singleShot(0, [&] { handled = true; });
     std::vector<int> onBar;
     simulator.duringRun = [&] {
         EXPECT_FALSE(handled);
         Click("startButton");
-        EXPECT_GT(std::exchange(paints.count, 0), 0);
+        EXPECT_GT(std::exchange(onDialog.paints, 0), 0);
         onBar.push_back(bar.value());
     };
     Click("type_2");
