@@ -24,7 +24,9 @@ TECLA TECLA_NORMAL p p p
 TECLA TECLA_NORMAL <Nenhum> maiúscula Shift
 TECLA TECLA_NORMAL nada inactiva n 0
 GRUPO Comandos
-TECLA TECLA_NORMAL Limpar limpar [Limpar-Area-Trabalho;;;de;;;vez]
+TECLA TECLA_NORMAL Palavra palavra [Apagar-Palavra;;;de;;;vez]
+TECLA TECLA_NORMAL Frase frase [Apagar-Frase]
+TECLA TECLA_NORMAL Limpar limpar [Limpar-Area-Trabalho]
 TECLA TECLA_NORMAL Mais mais [Mostrar-Predições-Seguintes]
 LINHA Outros
 GRUPO Comandos
@@ -57,6 +59,10 @@ def prepare(desktop):
 def commands(desktop, ondrilo):
     desktop.xdotool('type', 'ola mundo. bom dia')
     ondrilo.expect_text('ola mundo. bom dia')
+    ondrilo.click('palavra')
+    ondrilo.expect_text('ola mundo. bom ')
+    ondrilo.click('frase')
+    ondrilo.expect_text('ola mundo. ')
     ondrilo.click('limpar')
     ondrilo.expect_text('')
 
