@@ -25,9 +25,16 @@ QString FirstLine(const QString& text) {
     return text.first(std::min<qsizetype>(lineBreak - text.begin(), kReach));
 }
 
-/// A picture in the text keeps words apart, as a blank does.
-Text ToText(QString text) {
-    return FromQString(text.replace(QChar::ObjectReplacementCharacter, u' '));
+/// A picture in the text keeps words apart, as a blank does, and so do the blanks that keep a line together,
+/// with which browsers write each blank at an end. Marks that nobody sees are no part of a word.
+Text ToText(const QString& text) {
+    QString seen;
+    for (const QChar c : text)
+        if (c == QChar::ObjectReplacementCharacter || c.category() == QChar::Separator_Space)
+            seen += u' ';
+        else if (c.category() != QChar::Other_Format)
+            seen += c;
+    return FromQString(seen);
 }
 
 } // namespace

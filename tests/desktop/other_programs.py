@@ -1,13 +1,16 @@
-"""Real programs that the person writes in, with one interface: xterm, and editors of three toolkits.
+"""Real programs that the person writes in, with one interface: xterm, editors of three toolkits, and browsers.
 
 Each stands at the top of the screen, corrects nothing by itself, and gives its text back by its own means: the
-terminal as the bytes that it got, an editor as the file that it saves. While the story goes on an editor is read
-through the accessibility tree instead, so that no key but the story's reaches it.
+terminal as the bytes that it got, an editor as the file that it saves, a browser as its page tells it in the title.
+While the story goes on an editor is read through the accessibility tree instead, so that no key but the story's
+reaches it.
 """
 
 import contextlib
+import json
 import re
 import subprocess
+from urllib.parse import unquote
 
 from desktop import Failure, wait_for
 from story import expect
@@ -307,4 +310,65 @@ class Writer(Editor):
         return inside
 
 
-PROGRAMS = {'xterm': Xterm, 'mousepad': Mousepad, 'featherpad': Featherpad, 'writer': Writer}
+class Browser(Editor):
+    """One page, filled by what is written in."""
+
+    title = '^texto='
+    TEXTAREA = '<textarea id="field" autofocus></textarea>'
+    PART_OF_PAGE = '<div id="field" contenteditable autofocus></div>'  # as mail is written
+    PAGE = '''<!DOCTYPE html><meta charset="utf-8"><style>#field{position:fixed;inset:10px}</style>%s<script>
+    onload = oninput = () => {
+        const text = field.value ?? field.innerText.replace(/\\n$/, "").replaceAll("\\xa0", " ");
+        document.title = "texto=" + encodeURIComponent(text) + "=";
+    }</script>'''
+
+    def __init__(self, desktop, field=TEXTAREA):
+        self.field = field
+        super().__init__(desktop)
+
+    def prepare(self):
+        self.page = self.folder / 'texto.html'
+        self.page.write_text(self.PAGE % self.field)
+
+    def text(self):
+        return unquote(self.desktop.xdotool('getwindowname', self.window).split('=')[1])
+
+    def saved_text(self):
+        return self.text()
+
+    def paragraphs(self):
+        multi_line = self.atspi.StateType.MULTI_LINE
+        return self.elements(lambda e: e.get_state_set().contains(multi_line))
+
+    def click(self):
+        self.desktop.xdotool('mousemove', '--window', self.window, WIDTH - 100, HEIGHT - 60, 'click', 1)
+        wait_for(self.is_active, 'the focus in ' + self.name)
+
+
+class Firefox(Browser):
+    name = 'Firefox'
+    PREFERENCES = {'browser.aboutwelcome.enabled': False, 'browser.shell.checkDefaultBrowser': False,
+                   'browser.startup.homepage_override.mstone': 'ignore', 'layout.spellcheckDefault': 0,
+                   'datareporting.policy.dataSubmissionEnabled': False, 'termsofuse.bypassNotification': True}
+
+    def command(self):
+        (self.folder / 'user.js').write_text(''.join(
+            'user_pref("%s", %s);\n' % (name, json.dumps(value)) for name, value in self.PREFERENCES.items()))
+        return ['firefox-esr', '--no-remote', '--width', str(WIDTH), '--height', str(HEIGHT), '--profile', self.folder,
+                self.page.as_uri()]
+
+
+class Chromium(Browser):
+    """Shows its text only to who asks for that at its start."""
+
+    name = 'Chromium'
+
+    def command(self):
+        return ['chromium', '--user-data-dir=%s' % self.folder, '--no-first-run', '--no-default-browser-check',
+                '--no-sandbox', '--test-type', '--password-store=basic', '--force-renderer-accessibility',
+                self.page.as_uri()]
+
+
+PROGRAMS = {'xterm': Xterm, 'mousepad': Mousepad, 'featherpad': Featherpad, 'writer': Writer,
+            'firefox': Firefox, 'firefox-mail': lambda desktop: Firefox(desktop, Browser.PART_OF_PAGE),
+            'chromium': Chromium, 'chromium-mail': lambda desktop: Chromium(desktop, Browser.PART_OF_PAGE)}

@@ -124,7 +124,7 @@ TEST_P(AnyEditor, TellsTheCaretsPlaceAndTheRealTextAfterKeysAndClicks) {
     Type(keys, "Olá"_w);
     ExpectParagraph("Olá"_w, 3);
     const Point afterWord = CaretRightOf(empty);
-    Type(keys, ", avó €"_w);
+    Type(keys, ",\u00A0avó €"_w); // as browsers write a blank at an end
     ExpectParagraph("Olá, avó €"_w, 10);
     CaretRightOf(afterWord);
     Tap(keys, {vk::Enter});
