@@ -39,6 +39,7 @@ bool CGenericWordProcessor::Create() {
         return false;
     focusHook = desktop.OnFocusChange([this] { OnFocusChange(); });
     accessible.Follow(process);
+    accessible.OnFocusMoved([this] { AskForText(); });
     AskForText();
     return true;
 }

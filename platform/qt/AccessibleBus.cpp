@@ -5,6 +5,8 @@
 #include "platform/qt/AccessiblePrograms.h"
 #include "platform/x11/X11Windows.h"
 
+#include <utility>
+
 namespace ondrilo {
 
 /// Brings together what programs tell and who is followed.
@@ -16,6 +18,8 @@ class AccessibleBus::Watch {
     void FocusOrCaretChanged(std::uint32_t process);
 
     std::uint32_t followed = 0;
+    AccessibleObject focused; ///< there
+    std::function<void()> focusMoved;
     AccessiblePrograms programs{[this](std::uint32_t process) {
         FocusOrCaretChanged(process);
     }};
@@ -31,10 +35,14 @@ class AccessibleBus::Watch {
 void AccessibleBus::Watch::Follow(std::uint32_t process) {
     windows.ProcessEvents(); // nobody needs them here, but the server keeps what is not fetched
     followed = process;
+    focused = {};
+    focusMoved = nullptr;
     paragraph.Drop();
     caret.Forget();
-    if (const auto* focus = Focus())
+    if (const auto* focus = Focus()) {
+        focused = focus->object;
         caret.Move(*focus);
+    }
 }
 
 const AccessibleFocus* AccessibleBus::Watch::Focus() const {
@@ -52,6 +60,9 @@ void AccessibleBus::Watch::FocusOrCaretChanged(std::uint32_t process) {
     if (const auto* focus = Focus()) {
         caret.Move(*focus);
         paragraph.Renew();
+        const bool isElsewhere = std::exchange(focused, focus->object) != focus->object;
+        if (isElsewhere && focusMoved)
+            focusMoved();
     }
 }
 
@@ -62,6 +73,10 @@ AccessibleBus::~AccessibleBus() = default;
 
 void AccessibleBus::Follow(std::uint32_t process) {
     watch->Follow(process);
+}
+
+void AccessibleBus::OnFocusMoved(const std::function<void()>& moved) {
+    watch->focusMoved = moved;
 }
 
 Point AccessibleBus::CaretPosition() const {

@@ -150,8 +150,10 @@ TEST_F(ABox, IsToldToBeSecretAsLongAsAPasswordIsWrittenThere) {
     Type(keys, "um");
     ExpectParagraph("um", 2);
     EXPECT_FALSE(texts.IsPassword());
+    bool hasMoved = false;
+    texts.OnFocusMoved([&] { hasMoved = true; });
     Tap(keys, {vk::Tab});
-    ASSERT_TRUE(Eventually([&] { return texts.IsPassword(); }));
+    ASSERT_TRUE(Eventually([&] { return texts.IsPassword() && hasMoved; }));
     bool isRead = false;
     texts.ReadParagraph([&](const auto&) { isRead = true; });
     Type(keys, "dois");

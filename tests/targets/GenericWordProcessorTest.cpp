@@ -116,6 +116,9 @@ TEST_F(GenericWordProcessorTest, TheRealTextTakesThePlaceOfALostShadow) {
     EXPECT_EQ(target.GetPreviousWord(), "uma") << "kept until the program tells";
     program.Answer("", 0);
     EXPECT_EQ(target.GetPreviousWord(), "") << "the message was sent, its field is empty";
+    program.focusMoved();
+    program.Answer("outro campo", 11);
+    EXPECT_EQ(target.GetPreviousWord(), "outro") << "the page has moved the focus";
 }
 
 TEST_F(GenericWordProcessorTest, OfAPasswordNothingIsKept) {
