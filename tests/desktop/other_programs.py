@@ -311,7 +311,7 @@ class Writer(Editor):
 
 
 class Browser(Editor):
-    """One page, filled by what is written in."""
+    """A page that is filled by one field."""
 
     title = '^texto='
     TEXTAREA = '<textarea id="field" autofocus></textarea>'
@@ -359,7 +359,7 @@ class Firefox(Browser):
 
 
 class Chromium(Browser):
-    """Shows its text only to who asks for that at its start."""
+    """Tells its text only when it was started for that, and starts for root only without its sandbox."""
 
     name = 'Chromium'
 
@@ -371,4 +371,4 @@ class Chromium(Browser):
 
 PROGRAMS = {'xterm': Xterm, 'mousepad': Mousepad, 'featherpad': Featherpad, 'writer': Writer,
             'firefox': Firefox, 'firefox-mail': lambda desktop: Firefox(desktop, Browser.PART_OF_PAGE),
-            'chromium': Chromium, 'chromium-mail': lambda desktop: Chromium(desktop, Browser.PART_OF_PAGE)}
+            'chromium-mail': lambda desktop: Chromium(desktop, Browser.PART_OF_PAGE)}
