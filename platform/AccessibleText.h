@@ -18,9 +18,9 @@ class AccessibleText {
 
     /// From now on everything is about that process; 0 is none. An answer that is still awaited never comes.
     virtual void Follow(std::uint32_t /*process*/) {}
-    /// Who is to be told when something else there has got the focus, also where nobody pressed anything:
-    /// pages move it by themselves. Forgotten when another process is followed.
-    virtual void OnFocusMoved(const std::function<void()>& /*moved*/) {}
+    /// Who is to be told when the caret has moved there, or when something else has got the focus, also where
+    /// nobody pressed anything: pages move them by themselves. Forgotten when another process is followed.
+    virtual void OnCaretMoved(const std::function<void(bool isElsewhere)>& /*moved*/) {}
 
     /// Top left of the caret on the screen, as last told, in logical pixels; (0, 0) while unknown.
     [[nodiscard]] virtual Point CaretPosition() const { return {}; }

@@ -39,7 +39,7 @@ bool CGenericWordProcessor::Create() {
         return false;
     focusHook = desktop.OnFocusChange([this] { OnFocusChange(); });
     accessible.Follow(process);
-    accessible.OnFocusMoved([this] { AskForText(); });
+    accessible.OnCaretMoved([this](bool isElsewhere) { OnCaretMoved(isElsewhere); });
     AskForText();
     return true;
 }
@@ -108,7 +108,14 @@ void CGenericWordProcessor::OnFocusChange() {
         ResetShadow();
 }
 
+/// Keys are followed. A click may have its effect only when the text has been read.
+void CGenericWordProcessor::OnCaretMoved(bool isElsewhere) {
+    if (isElsewhere || !hasTyped)
+        AskForText();
+}
+
 void CGenericWordProcessor::KeyDown(int code, std::int32_t keyData) {
+    hasTyped = true;
     const bool isByWords = Tells(keyData, kKeyWithControl);
     if (accessibleRefresh)
         AskForText();
@@ -179,7 +186,7 @@ void CGenericWordProcessor::ResetShadow() {
 void CGenericWordProcessor::AskForText() {
     accessibleRefresh = true;
     accessible.ReadParagraph([this](const AccessibleText::Paragraph& paragraph) {
-        accessibleRefresh = false;
+        accessibleRefresh = hasTyped = false;
         text = paragraph.text;
         cursor = std::min(paragraph.cursor, text.size());
         contextRead();

@@ -71,6 +71,7 @@ class CGenericWordProcessor : public ContextWordProcessor {
     [[nodiscard]] TextContext Context() const override { return {text, cursor}; }
     void OnEvent(const MessageEvent& event);
     void OnFocusChange();
+    void OnCaretMoved(bool isElsewhere);
     void KeyDown(int code, std::int32_t keyData);
     void Character(char c, std::int32_t keyData);
     void Button();
@@ -92,6 +93,7 @@ class CGenericWordProcessor : public ContextWordProcessor {
     /// A click throws the shadow away; clear while the mouse is disabled, since clicks are then for our keys.
     bool mouseTracked = true;
     bool accessibleRefresh = false; ///< the real text is awaited
+    bool hasTyped = false;          ///< since the real text was read
     std::optional<std::int32_t> lastMousePosition;
     WindowId activeWindow; ///< the program's window that has the focus: the target's or, say, a dialog of it
     RegistrationHandle focusHook;

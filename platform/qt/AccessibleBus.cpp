@@ -19,7 +19,7 @@ class AccessibleBus::Watch {
 
     std::uint32_t followed = 0;
     AccessibleObject focused; ///< there
-    std::function<void()> focusMoved;
+    std::function<void(bool isElsewhere)> caretMoved;
     AccessiblePrograms programs{[this](std::uint32_t process) {
         FocusOrCaretChanged(process);
     }};
@@ -36,7 +36,7 @@ void AccessibleBus::Watch::Follow(std::uint32_t process) {
     windows.ProcessEvents(); // nobody needs them here, but the server keeps what is not fetched
     followed = process;
     focused = {};
-    focusMoved = nullptr;
+    caretMoved = nullptr;
     paragraph.Drop();
     caret.Forget();
     if (const auto* focus = Focus()) {
@@ -61,8 +61,8 @@ void AccessibleBus::Watch::FocusOrCaretChanged(std::uint32_t process) {
         caret.Move(*focus);
         paragraph.Renew();
         const bool isElsewhere = std::exchange(focused, focus->object) != focus->object;
-        if (isElsewhere && focusMoved)
-            focusMoved();
+        if (caretMoved)
+            caretMoved(isElsewhere);
     }
 }
 
@@ -75,8 +75,8 @@ void AccessibleBus::Follow(std::uint32_t process) {
     watch->Follow(process);
 }
 
-void AccessibleBus::OnFocusMoved(const std::function<void()>& moved) {
-    watch->focusMoved = moved;
+void AccessibleBus::OnCaretMoved(const std::function<void(bool isElsewhere)>& moved) {
+    watch->caretMoved = moved;
 }
 
 Point AccessibleBus::CaretPosition() const {

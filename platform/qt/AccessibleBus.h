@@ -15,7 +15,7 @@ class AccessibleBus : public AccessibleText {
     ~AccessibleBus() override;
 
     void Follow(std::uint32_t process) override;
-    void OnFocusMoved(const std::function<void()>& moved) override;
+    void OnCaretMoved(const std::function<void(bool isElsewhere)>& moved) override;
     [[nodiscard]] Point CaretPosition() const override;
     [[nodiscard]] bool IsPassword() const override;
     void ReadParagraph(const std::function<void(Paragraph)>& answer) override;

@@ -34,9 +34,9 @@ class FakeOtherProgram : public TargetHook, public AccessibleText, private TextS
     void Follow(std::uint32_t process) override {
         followed = process;
         question = {};
-        focusMoved = {};
+        caretMoved = {};
     }
-    void OnFocusMoved(const std::function<void()>& moved) override { focusMoved = moved; }
+    void OnCaretMoved(const std::function<void(bool isElsewhere)>& moved) override { caretMoved = moved; }
     [[nodiscard]] Point CaretPosition() const override { return surface.caret; }
     [[nodiscard]] bool IsPassword() const override { return isPassword; }
     void ReadParagraph(const std::function<void(Paragraph)>& answer) override { question = answer; }
@@ -61,7 +61,7 @@ class FakeOtherProgram : public TargetHook, public AccessibleText, private TextS
     std::uint32_t followed = 0;
     std::set<int> specialKeys;
     std::function<void(Paragraph)> question;
-    std::function<void()> focusMoved;
+    std::function<void(bool isElsewhere)> caretMoved;
     /// Called after each event, as the queue is handled before the next.
     std::function<void()> settle = [] {
     };

@@ -116,7 +116,13 @@ TEST_F(GenericWordProcessorTest, TheRealTextTakesThePlaceOfALostShadow) {
     EXPECT_EQ(target.GetPreviousWord(), "uma") << "kept until the program tells";
     program.Answer("", 0);
     EXPECT_EQ(target.GetPreviousWord(), "") << "the message was sent, its field is empty";
-    program.focusMoved();
+    program.caretMoved(false);
+    program.Answer("um clique lento", 9);
+    EXPECT_EQ(target.GetPreviousWord(), "um") << "it came when the place before it had been read";
+    program.Press('A');
+    program.caretMoved(false);
+    EXPECT_FALSE(program.question) << "the key tells";
+    program.caretMoved(true);
     program.Answer("outro campo", 11);
     EXPECT_EQ(target.GetPreviousWord(), "outro") << "the page has moved the focus";
 }
